@@ -1,0 +1,81 @@
+#include "platform/MemoryFileSystem.h"
+
+#include <sstream>
+
+namespace lw {
+
+namespace {
+
+std::string Normalized(std::string path) {
+    while (path.size() > 1 && path.back() == '/')
+        path.pop_back();
+    return path;
+}
+
+std::string ParentOf(const std::string& path) {
+    const std::size_t slash = path.rfind('/');
+    if (slash == std::string::npos)
+        return std::string();
+    return slash == 0 ? std::string("/") : path.substr(0, slash);
+}
+
+} // namespace
+
+void MemoryFileSystem::AddFile(const std::string& path, const std::string& bytes) {
+    const std::string key = Normalized(path);
+    files_[key] = bytes;
+    AddDirectory(ParentOf(key));
+}
+
+void MemoryFileSystem::AddDirectory(const std::string& path) {
+    for (std::string folder = Normalized(path); !folder.empty() && folder != "/";
+         folder = ParentOf(folder)) {
+        directories_.insert(folder);
+    }
+}
+
+void MemoryFileSystem::Remove(const std::string& path) {
+    files_.erase(Normalized(path));
+    directories_.erase(Normalized(path));
+}
+
+void MemoryFileSystem::MakeUnreadable(const std::string& path) {
+    unreadable_.insert(Normalized(path));
+}
+
+PathKind MemoryFileSystem::KindOf(const std::string& path) const {
+    const std::string key = Normalized(path);
+    if (files_.count(key) != 0)
+        return PathKind::File;
+    if (key == "/" || directories_.count(key) != 0)
+        return PathKind::Directory;
+    return PathKind::Missing;
+}
+
+std::unique_ptr<std::istream> MemoryFileSystem::OpenForReading(const std::string& path) const {
+    const std::string key = Normalized(path);
+    const auto found = files_.find(key);
+    if (found == files_.end() || unreadable_.count(key) != 0)
+        return nullptr;
+    return std::make_unique<std::istringstream>(found->second);
+}
+
+std::vector<DirectoryEntry> MemoryFileSystem::ListDirectory(const std::string& path) const {
+    const std::string folder = Normalized(path);
+    std::vector<DirectoryEntry> entries;
+    auto addChild = [&](const std::string& child, bool isDirectory) {
+        if (child != folder && ParentOf(child) == folder)
+            entries.push_back({child.substr(child.rfind('/') + 1), isDirectory});
+    };
+    for (const auto& file : files_)
+        addChild(file.first, false);
+    for (const std::string& directory : directories_)
+        addChild(directory, true);
+    return entries;
+}
+
+std::string MemoryFileSystem::CanonicalPath(const std::string& path) const {
+    return Normalized(path);
+}
+
+} // namespace lw

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+
+#include <map>
+#include <set>
+#include <string>
+
+namespace lw {
+
+// A file system held in memory, for tests: files are added with their bytes,
+// and their folders come into being with them.
+class MemoryFileSystem : public FileSystem {
+public:
+    void AddFile(const std::string& path, const std::string& bytes);
+    void AddDirectory(const std::string& path);
+    void Remove(const std::string& path);
+    // A file that exists but cannot be opened, as one without read permission.
+    void MakeUnreadable(const std::string& path);
+
+    PathKind KindOf(const std::string& path) const override;
+    std::unique_ptr<std::istream> OpenForReading(const std::string& path) const override;
+    std::vector<DirectoryEntry> ListDirectory(const std::string& path) const override;
+    std::string CanonicalPath(const std::string& path) const override;
+
+private:
+    std::map<std::string, std::string> files_;
+    std::set<std::string> directories_;
+    std::set<std::string> unreadable_;
+};
+
+} // namespace lw

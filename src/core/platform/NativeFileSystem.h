@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+
+namespace lw {
+
+// The file system through the standard library, for the command-line tool.
+class NativeFileSystem : public FileSystem {
+public:
+    PathKind KindOf(const std::string& path) const override;
+    std::unique_ptr<std::istream> OpenForReading(const std::string& path) const override;
+    std::vector<DirectoryEntry> ListDirectory(const std::string& path) const override;
+    std::string CanonicalPath(const std::string& path) const override;
+};
+
+// The path of the running program; `argv0` is the fallback where the system
+// cannot tell.
+std::string CurrentExecutablePath(const char* argv0);
+
+} // namespace lw

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/UserPrompts.h"
+
+#include <deque>
+#include <string>
+#include <vector>
+
+namespace lw {
+
+// Keeps every message and question in order, and answers questions from a
+// queue of prepared answers; with the queue empty it answers `fallback`.
+class RecordingPrompts : public UserPrompts {
+public:
+    struct Shown {
+        std::string text;
+        MessageIcon icon;
+        bool isQuestion;
+    };
+
+    explicit RecordingPrompts(Answer fallback = Answer::Cancel) : fallback_(fallback) {}
+
+    void ShowMessage(const std::string& text, MessageIcon icon) override;
+    Answer Ask(const std::string& question, MessageIcon icon) override;
+
+    void QueueAnswer(Answer answer) { answers_.push_back(answer); }
+
+    const std::vector<Shown>& Log() const { return log_; }
+    std::vector<std::string> MessageTexts() const;
+    void Clear() { log_.clear(); }
+
+private:
+    Answer fallback_;
+    std::deque<Answer> answers_;
+    std::vector<Shown> log_;
+};
+
+} // namespace lw

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+namespace lw {
+
+enum class MessageIcon { Stop, Question, Warning, Information };
+
+enum class Answer { Yes, No, Cancel };
+
+// Modal message boxes and questions. Every question offers Yes, No and Cancel.
+// The editor shows real boxes; tests and the tool record or print them.
+class UserPrompts {
+public:
+    virtual ~UserPrompts() = default;
+    virtual void ShowMessage(const std::string& text, MessageIcon icon) = 0;
+    virtual Answer Ask(const std::string& question, MessageIcon icon) = 0;
+};
+
+} // namespace lw

@@ -1,0 +1,106 @@
+#include "document/ParserUtils.h"
+
+#include <gtest/gtest.h>
+
+using SortieKitSpace::ParserUtils;
+
+namespace {
+
+std::vector<std::string> Words(const std::string& line) {
+    std::vector<std::string> words;
+    ParserUtils::parseLineIntoWords(words, line);
+    return words;
+}
+
+std::vector<std::string> Params(const std::string& line, std::size_t pos = 0) {
+    std::vector<std::string> params;
+    ParserUtils::getParamsInBrackets(params, line, pos);
+    return params;
+}
+
+using Strings = std::vector<std::string>;
+
+} // namespace
+
+TEST(ParserUtilsWords, SeparatorRunsGiveNoEmptyWord) {
+    EXPECT_EQ(Words("phase; x; azimuth(a,1,2,3); blocks_x; ;f;"),
+              (Strings{"phase", "x", "azimuth", "a", "1", "2", "3", "blocks_x", "f"}));
+    EXPECT_EQ(Words("check; p; in_radius(a,);"), (Strings{"check", "p", "in_radius", "a"}));
+    EXPECT_EQ(Words("  \t ;;; "), Strings{});
+}
+
+TEST(ParserUtilsWords, AngleBracketsAreSeparators) {
+    EXPECT_EQ(Words("action; p(o,n); <empty>();"), (Strings{"action", "p", "o", "n", "empty"}));
+    EXPECT_EQ(Words("at(<EMPTY>)"), (Strings{"at", "EMPTY"}));
+}
+
+TEST(ParserUtilsWords, PathsAndPunctuationAreWordCharacters) {
+    EXPECT_EQ(Words("tvd scg\\0\\"), (Strings{"tvd", "scg\\0\\"}));
+    EXPECT_EQ(Words("a/b.c:d_e-f+g$h{i}j|k }"), (Strings{"a/b.c:d_e-f+g$h{i}j|k", "}"}));
+}
+
+TEST(ParserUtilsWords, QuotedTextIsOneWord) {
+    EXPECT_EQ(Words("Format \"set_value($property, $value)\""),
+              (Strings{"Format", "set_value($property, $value)"}));
+    EXPECT_EQ(Words("gui_helper; n; 10; 20;\"\"; ( ); 3;"),
+              (Strings{"gui_helper", "n", "10", "20", "", "3"}));
+    EXPECT_EQ(Words("Name \"open"), (Strings{"Name", "open"}));
+}
+
+TEST(ParserUtilsWords, GetNextWordStopsBeforeBracketAndSkipsNothing) {
+    const std::string line = "name(a,b)";
+    std::size_t pos = 0;
+    EXPECT_EQ(ParserUtils::getNextWord(line, pos), "name");
+    EXPECT_EQ(pos, 4u);
+    std::size_t blank = 0;
+    EXPECT_EQ(ParserUtils::getNextWord(" x", blank), "");
+    EXPECT_EQ(blank, 0u);
+}
+
+TEST(ParserUtilsWords, EatAuxCharsStopsAtWordOrEnd) {
+    std::size_t pos = 0;
+    ParserUtils::eatAuxChars("; (<x", pos);
+    EXPECT_EQ(pos, 4u);
+    pos = 0;
+    ParserUtils::eatAuxChars(" ;", pos);
+    EXPECT_EQ(pos, 2u);
+}
+
+TEST(ParserUtilsEmbraced, ReadsUpToClosingAndTakesRestWhenUnterminated) {
+    std::size_t pos = 5;
+    EXPECT_EQ(ParserUtils::getNextEmbracedWord("Name [a b] x", pos, ']'), "a b");
+    EXPECT_EQ(pos, 10u);
+    pos = 0;
+    EXPECT_EQ(ParserUtils::getNextEmbracedWord("\"abc", pos, '"'), "abc");
+    EXPECT_EQ(pos, 4u);
+}
+
+TEST(ParserUtilsBrackets, EmptyEntriesAndEmptyPairs) {
+    EXPECT_EQ(Params("(,name)"), (Strings{"", "name"}));
+    EXPECT_EQ(Params("( )"), Strings{});
+    EXPECT_EQ(Params("()"), Strings{});
+    EXPECT_EQ(Params("(a,)"), (Strings{"a", ""}));
+    EXPECT_EQ(Params("r( a b , c )"), (Strings{"a b", "c"}));
+}
+
+TEST(ParserUtilsBrackets, SearchesForwardAndMovesBehindClosingBracket) {
+    const std::string line = "gui_helper; n; 1; 2;P1; (OBJ); rest";
+    std::size_t pos = 20;
+    std::vector<std::string> params;
+    ParserUtils::getParamsInBrackets(params, line, pos);
+    EXPECT_EQ(params, Strings{"OBJ"});
+    EXPECT_EQ(line.substr(pos), "; rest");
+}
+
+TEST(ParserUtilsBrackets, NestedBracketsStayInOneEntry) {
+    EXPECT_EQ(Params("x(f(a,b),c)"), (Strings{"f(a,b)", "c"}));
+}
+
+TEST(ParserUtilsBrackets, MissingBracketsGiveNothingAndEndThePosition) {
+    std::vector<std::string> params;
+    std::size_t pos = 0;
+    ParserUtils::getParamsInBrackets(params, "no brackets", pos);
+    EXPECT_TRUE(params.empty());
+    EXPECT_EQ(pos, 11u);
+    EXPECT_EQ(Params("(a,b"), (Strings{"a", "b"}));
+}

@@ -1,0 +1,38 @@
+#include "support/TestFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+namespace lw::test {
+
+std::string SampleDataDir() { return LOOMWRIGHT_SAMPLE_DATA_DIR; }
+
+std::string CasesDir() { return LOOMWRIGHT_CASES_DIR; }
+
+std::string ReadFileBytes(const std::string& path) {
+    std::ifstream stream(path, std::ios::binary);
+    EXPECT_TRUE(stream.is_open()) << "cannot read " << path;
+    std::ostringstream bytes;
+    bytes << stream.rdbuf();
+    return bytes.str();
+}
+
+std::vector<std::string> CaseFolders(const std::string& folder) {
+    std::vector<std::string> folders;
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        if (entry.is_directory())
+            folders.push_back(entry.path().string());
+    }
+    std::sort(folders.begin(), folders.end());
+    return folders;
+}
+
+bool FileExists(const std::string& path) { return fs::exists(path); }
+
+} // namespace lw::test

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lw::test {
+
+// The bundled sample data folder and the folder of file-based test cases.
+std::string SampleDataDir();
+std::string CasesDir();
+
+// The whole content of a file; fails the running test when it cannot be read.
+std::string ReadFileBytes(const std::string& path);
+
+// The sub-folders of a folder, sorted by name: one per file-based test case.
+std::vector<std::string> CaseFolders(const std::string& folder);
+
+bool FileExists(const std::string& path);
+
+} // namespace lw::test
