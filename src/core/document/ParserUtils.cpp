@@ -4,7 +4,9 @@ namespace SortieKitSpace {
 
 namespace {
 
-bool isBlank(char c) { return c == ' ' || c == '\t'; }
+bool isBlank(char c) {
+    return c == ' ' || c == '\t';
+}
 
 std::string trimBlanks(const std::string& text) {
     std::size_t begin = 0;

@@ -25,8 +25,7 @@ public:
 
     // pos stands on an opening delimiter; returns the text up to `closing` and
     // moves pos behind it. An unterminated text runs to the end of the line.
-    static std::string getNextEmbracedWord(const std::string& line, std::size_t& pos,
-                                           char closing);
+    static std::string getNextEmbracedWord(const std::string& line, std::size_t& pos, char closing);
 
     // Appends the comma-separated entries of the next bracket pair, each with
     // blanks trimmed; "( )" gives none, "(,a)" gives an empty entry and "a".

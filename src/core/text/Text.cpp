@@ -14,7 +14,9 @@ std::int32_t AtoiText(const std::string& text) {
     return static_cast<std::int32_t>(value);
 }
 
-double AtofText(const std::string& text) { return std::strtod(text.c_str(), nullptr); }
+double AtofText(const std::string& text) {
+    return std::strtod(text.c_str(), nullptr);
+}
 
 std::string LowerCase(std::string text) {
     for (char& c : text) {

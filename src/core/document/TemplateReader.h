@@ -1,0 +1,15 @@
+#pragma once
+
+#include "document/TemplateDesc.h"
+
+#include <istream>
+
+namespace lw {
+
+// Appends the records of a whole .mt stream to desc, which is not cleared.
+// Lines may end in LF or CR LF. Nothing is reported: a line that does not fit
+// its tag's grammar is dropped or gives a partial record, and judging the
+// content is left to whoever builds objects from the description.
+void ReadTemplateDesc(TemplateDesc& desc, std::istream& stream);
+
+} // namespace lw

@@ -1,0 +1,62 @@
+// The grammar of each tag, with its damaged and short forms, is covered by the
+// file cases under cases/format; these tests hold what a written file cannot
+// show.
+
+#include "document/TemplateReader.h"
+
+#include "DescPrinting.h"
+
+#include <gtest/gtest.h>
+#include <sstream>
+
+using namespace lw;
+
+namespace {
+
+TemplateDesc Read(const std::string& text, TemplateDesc desc = {}) {
+    std::istringstream stream(text, std::ios::in | std::ios::binary);
+    ReadTemplateDesc(desc, stream);
+    return desc;
+}
+
+} // namespace
+
+TEST(TemplateReader, LineEndsMayBeLfOrCrLfAndTheLastMayBeMissing) {
+    const TemplateDesc expected = Read("case; a(p);\r\ntlink; a(o); b(i);\r\n");
+    ASSERT_EQ(expected.cases.size(), 1u);
+    ASSERT_EQ(expected.links.size(), 1u);
+    EXPECT_EQ(Read("case; a(p);\ntlink; a(o); b(i);\n"), expected);
+    EXPECT_EQ(Read("case; a(p);\ntlink; a(o); b(i);"), expected);
+    EXPECT_EQ(Read("case; a(p);\r\ntlink; a(o); b(i);"), expected);
+}
+
+TEST(TemplateReader, AVeryLongLineIsReadWholeAndTheNextFollows) {
+    std::string line = "case; c(";
+    for (int i = 0; i < 3000; ++i)
+        line += "phase_" + std::to_string(i) + ",";
+    ASSERT_GT(line.size(), 20000u);
+    const TemplateDesc desc = Read(line + "last);\r\ncase; d(p);\r\n");
+    ASSERT_EQ(desc.cases.size(), 2u);
+    EXPECT_EQ(desc.cases[0].phaseNames.size(), 3001u);
+    EXPECT_EQ(desc.cases[0].phaseNames.back(), "last");
+}
+
+TEST(TemplateReader, AppendsToWhatTheDescHoldsInFileOrder) {
+    TemplateDesc before;
+    before.cases.push_back(CaseDesc{"old", {}});
+    const TemplateDesc desc = Read("case; b();\r\nswitch; 1; 0; 0; s();\r\ncase; a();\r\n", before);
+    ASSERT_EQ(desc.cases.size(), 3u);
+    EXPECT_EQ(desc.cases[0].name, "old");
+    EXPECT_EQ(desc.cases[1].name, "b");
+    EXPECT_EQ(desc.cases[2].name, "a");
+}
+
+// The writer drops a colour behind an owner or in a check's helper; the reader
+// still takes it.
+TEST(TemplateReader, GuiHelperColourIsReadWhateverStandsBeforeIt) {
+    const TemplateDesc desc = Read("gui_helper; Skin; 1; 2;P2; (PLANE); 4;\r\n"
+                                   "gui_helper; check; 3; -4;\"\"; ( ); 5;\r\n");
+    ASSERT_EQ(desc.guiHelpers.size(), 2u);
+    EXPECT_TRUE(desc.guiHelpers[0] == (GuiHelperDesc{"Skin", 1, 2, "P2", "PLANE", 4}));
+    EXPECT_TRUE(desc.guiHelpers[1] == (GuiHelperDesc{"check", 3, -4, "", "", 5}));
+}
