@@ -1,0 +1,46 @@
+#include "catalog/BlockInfo.h"
+
+#include <gtest/gtest.h>
+
+using namespace lw;
+
+namespace {
+
+BlockInfo Block(std::vector<std::string> inputs, std::vector<std::string> outputs,
+                std::vector<std::string> objects) {
+    BlockInfo info;
+    info.inputs = std::move(inputs);
+    info.outputs = std::move(outputs);
+    for (const std::string& object : objects)
+        info.dynamics[object] = {};
+    return info;
+}
+
+} // namespace
+
+TEST(IsCompatibleWith, NeedsTheSameCountsAndNamesButNotTheSameProperties) {
+    BlockInfo main = Block({"in"}, {"done", "fail"}, {"plane"});
+    BlockInfo other = Block({"in"}, {"fail", "done"}, {"plane"});
+    other.dynamics["plane"] = {"Model"};
+    other.folder = "elsewhere";
+    EXPECT_TRUE(IsCompatibleWith(main, other));
+    EXPECT_FALSE(IsCompatibleWith(main, Block({"in"}, {"done"}, {"plane"})));
+    EXPECT_FALSE(IsCompatibleWith(main, Block({"in"}, {"done", "fail"}, {"ship"})));
+    EXPECT_FALSE(IsCompatibleWith(main, Block({"In"}, {"done", "fail"}, {"plane"})));
+    EXPECT_FALSE(IsCompatibleWith(main, Block({"in"}, {"done", "fail"}, {"plane", "ship"})));
+}
+
+TEST(IsCompatibleWith, DuplicatesMakeItOneSided) {
+    const BlockInfo doubled = Block({"a", "a"}, {}, {});
+    const BlockInfo distinct = Block({"a", "b"}, {}, {});
+    EXPECT_TRUE(IsCompatibleWith(doubled, distinct));
+    EXPECT_FALSE(IsCompatibleWith(distinct, doubled));
+}
+
+TEST(BlockNameFromPath, DropsFolderAndExtension) {
+    EXPECT_EQ(BlockNameFromPath("scg\\0\\blocks\\a.group"), "a");
+    EXPECT_EQ(BlockNameFromPath("scg/0\\mixed/b.c.group"), "b.c");
+    EXPECT_EQ(BlockNameFromPath("plain"), "plain");
+    // The last dot counts even when it lies in a folder name.
+    EXPECT_EQ(BlockNameFromPath("scg\\v1.2\\block"), "v1");
+}

@@ -1,0 +1,51 @@
+#include "catalog/ModelList.h"
+
+#include <gtest/gtest.h>
+#include <sstream>
+
+using namespace lw;
+
+namespace {
+
+ModelList Read(const std::string& text) {
+    ModelList list;
+    std::istringstream stream(text);
+    list.Read(stream);
+    return list;
+}
+
+std::string Describe(const ModelRecord& model) {
+    return model.typeName + "/" + model.name + "/" + model.coalition;
+}
+
+} // namespace
+
+TEST(ModelList, ReadsTypesAndTheirModelsInFileOrder) {
+    const ModelList list = Read("# models\r\n"
+                                "Type\r\n{\r\n  Name = Fighter;\r\n"
+                                "  Model\r\n  {\r\n    Name = \"Hawk Mk 2\";\r\n"
+                                "    Coalition = North;\r\n  }\r\n"
+                                "  Model\r\n  {\r\n    Name = Kestrel;\r\n  }\r\n}\r\n"
+                                "Coalition = Stray;\r\n");
+    ASSERT_EQ(list.types.size(), 1u);
+    const ModelType& fighter = list.types.at("Fighter");
+    EXPECT_EQ(fighter.name, "Fighter");
+    ASSERT_EQ(fighter.models.size(), 2u);
+    EXPECT_EQ(Describe(fighter.models[0]), "Fighter/Hawk Mk 2/North");
+    EXPECT_EQ(Describe(fighter.models[1]), "Fighter/Kestrel/");
+    EXPECT_EQ(list.parseState, 0);
+}
+
+TEST(ModelList, ASecondTypeOfTheSameNameReplacesTheFirst) {
+    const ModelList list = Read("Type\n{\nName = Boat;\nModel\n{\nName = a;\n}\n}\n"
+                                "Type\n{\nName = Boat;\nModel\n{\nName = b;\n}\n}\n");
+    ASSERT_EQ(list.types.at("Boat").models.size(), 1u);
+    EXPECT_EQ(list.types.at("Boat").models[0].name, "b");
+}
+
+TEST(ModelList, AModelBeforeAnyNameGoesToTheEmptyType) {
+    const ModelList list = Read("Type\n{\nModel\n{\nName = a;\nName \"\"\n}\nName \"\"\n");
+    ASSERT_EQ(list.types.count(""), 1u);
+    EXPECT_EQ(Describe(list.types.at("").models.at(0)), "/a/");
+    EXPECT_EQ(list.parseState, 1);
+}
