@@ -26,8 +26,9 @@ std::string ToForwardSlashes(std::string path) {
 bool IsAbsolutePath(const std::string& path) {
     if (!path.empty() && path[0] == '/')
         return true;
-    const bool driveLetter = path.size() >= 3 && std::isalpha(static_cast<unsigned char>(path[0]))
-                             && path[1] == ':' && path[2] == '/';
+    const bool driveLetter = path.size() >= 3 &&
+                             std::isalpha(static_cast<unsigned char>(path[0])) && path[1] == ':' &&
+                             path[2] == '/';
     return driveLetter;
 }
 

@@ -1,4 +1,5 @@
 #include "platform/FileAccess.h"
+
 #include "platform/MemoryFileSystem.h"
 
 #include <gtest/gtest.h>

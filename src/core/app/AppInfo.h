@@ -1,0 +1,10 @@
+#pragma once
+
+namespace lw {
+
+// The program's name as the user sees it, in captions and message boxes.
+inline constexpr const char* kApplicationName = "Loomwright";
+// The maker's name, under which the user's options are kept.
+inline constexpr const char* kOrganizationName = "Tarnwick";
+
+} // namespace lw

@@ -1,0 +1,20 @@
+#include "app/Weaver.h"
+
+#include "app/AppInfo.h"
+
+namespace lw {
+
+Weaver::Weaver(UserPrompts& prompts, OptionsStore& optionsStore, FileSystem& fileSystem)
+    : prompts(prompts), optionsStore(optionsStore), files(fileSystem), blockPool(files, prompts),
+      undoManager(this) {}
+
+std::string Weaver::Title() const {
+    return std::string(kApplicationName) + " - " + fileName + (undoManager.changed ? "*" : "");
+}
+
+void Weaver::RefreshTitle() {
+    if (viewHost != nullptr)
+        viewHost->SetTitle(Title());
+}
+
+} // namespace lw

@@ -1,0 +1,58 @@
+#include "app/Weaver.h"
+#include "document/ParserUtils.h"
+#include "text/Text.h"
+#include "text/TextLines.h"
+
+namespace lw {
+
+using SortieKitSpace::ParserUtils;
+
+void Weaver::StartUp(const std::string& dataFolderPath) {
+    dataFolder = LowerCase(dataFolderPath);
+    // A missing data folder is no error: relative paths then resolve against
+    // the working directory, and the program starts with what it finds there.
+    const bool folderExists = files.System().KindOf(dataFolderPath) == PathKind::Directory;
+    files.SetBaseFolder(folderExists ? dataFolderPath : std::string());
+
+    ReadConfiguration();
+    ReadCatalogue(modelsPath, modelList);
+    ReadCatalogue(actionsPath, ruleCatalogue);
+    blockPool.Load(blockFolders);
+    undoManager.ClearUndoStack();
+    undoManager.ClearRedoStack();
+    undoManager.changed = false;
+    options.Load(optionsStore);
+}
+
+template <typename Catalogue>
+void Weaver::ReadCatalogue(const std::string& path, Catalogue& catalogue) {
+    // A catalogue that is missing leaves its list empty, without a word.
+    if (auto stream = files.OpenForReading(path))
+        catalogue.Read(*stream);
+}
+
+void Weaver::ReadConfiguration() {
+    auto stream = files.OpenForReading("scg\\Loomwright.ini");
+    if (!stream)
+        return;
+    std::string line;
+    while (ReadTextLine(*stream, line)) {
+        std::vector<std::string> words;
+        ParserUtils::parseLineIntoWords(words, line);
+        if (words.size() < 2)
+            continue;
+        // The prefix applies as the lines come, so "tvd" acts on the lines below it.
+        const std::string& key = words[0];
+        const std::string& value = words[1];
+        if (key == "tvd")
+            tvdFolder = value;
+        else if (key == "models")
+            modelsPath = tvdFolder + value;
+        else if (key == "actions")
+            actionsPath = tvdFolder + value;
+        else if (key == "blocks")
+            blockFolders.push_back(tvdFolder + value);
+    }
+}
+
+} // namespace lw

@@ -1,0 +1,91 @@
+#include "undo/UndoManager.h"
+
+#include "app/Weaver.h"
+#include "platform/MemoryFileSystem.h"
+#include "platform/MemoryOptionsStore.h"
+#include "platform/RecordingPrompts.h"
+
+#include <gtest/gtest.h>
+
+using namespace lw;
+
+namespace {
+
+// A command that reports its own destruction into a shared log.
+class LoggingCommand : public UR_Command {
+public:
+    LoggingCommand(int number, std::vector<int>& destroyed)
+        : UR_Command(nullptr), number_(number), destroyed_(destroyed) {}
+    ~LoggingCommand() override { destroyed_.push_back(number_); }
+    void Undo() override {}
+    void Redo() override {}
+
+private:
+    int number_;
+    std::vector<int>& destroyed_;
+};
+
+class TitleRecorder : public ViewHost {
+public:
+    void SetTitle(const std::string& title) override { titles.push_back(title); }
+    void Repaint() override {}
+    std::vector<std::string> titles;
+};
+
+class UndoManagerTest : public ::testing::Test {
+protected:
+    std::unique_ptr<UR_Command> Command(int number) {
+        return std::make_unique<LoggingCommand>(number, destroyed);
+    }
+
+    std::vector<int> destroyed;
+    MemoryFileSystem disk;
+    MemoryOptionsStore store;
+    RecordingPrompts prompts;
+    Weaver weaver{prompts, store, disk};
+    UndoManager& history = weaver.undoManager;
+};
+
+} // namespace
+
+TEST_F(UndoManagerTest, TheHundredAndFirstPushDestroysTheOldest) {
+    for (int i = 1; i <= 101; ++i)
+        history.Push(Command(i));
+    EXPECT_EQ(history.undoStack.size(), 100u);
+    EXPECT_EQ(destroyed, std::vector<int>{1});
+}
+
+TEST_F(UndoManagerTest, APushEndsTheRedoBranch) {
+    history.Push(Command(1));
+    history.redoStack.push_back(Command(2));
+    history.redoStack.push_back(Command(3));
+    history.Push(Command(4));
+    EXPECT_TRUE(history.redoStack.empty());
+    EXPECT_EQ(destroyed, (std::vector<int>{3, 2}));
+    EXPECT_EQ(history.undoStack.size(), 2u);
+}
+
+TEST_F(UndoManagerTest, ANullPushMarksTheDocumentAndKeepsTheRedoStack) {
+    TitleRecorder host;
+    weaver.SetViewHost(&host);
+    weaver.fileName = "scg\\a.mt";
+    history.redoStack.push_back(Command(1));
+    history.Push(nullptr);
+    EXPECT_TRUE(history.changed);
+    EXPECT_EQ(history.redoStack.size(), 1u);
+    EXPECT_EQ(host.titles, std::vector<std::string>{"Loomwright - scg\\a.mt*"});
+}
+
+TEST_F(UndoManagerTest, ClearingDestroysNewestFirst) {
+    for (int i = 1; i <= 3; ++i)
+        history.Push(Command(i));
+    history.ClearUndoStack();
+    EXPECT_EQ(destroyed, (std::vector<int>{3, 2, 1}));
+}
+
+TEST_F(UndoManagerTest, TitleShowsTheFileAndTheChangedMark) {
+    EXPECT_EQ(weaver.Title(), "Loomwright - ");
+    weaver.fileName = "scg\\x.mt";
+    history.changed = true;
+    EXPECT_EQ(weaver.Title(), "Loomwright - scg\\x.mt*");
+}
