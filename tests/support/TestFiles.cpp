@@ -1,19 +1,22 @@
 #include "support/TestFiles.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <sstream>
 
 namespace fs = std::filesystem;
 
 namespace lw::test {
 
-std::string SampleDataDir() { return LOOMWRIGHT_SAMPLE_DATA_DIR; }
+std::string SampleDataDir() {
+    return LOOMWRIGHT_SAMPLE_DATA_DIR;
+}
 
-std::string CasesDir() { return LOOMWRIGHT_CASES_DIR; }
+std::string CasesDir() {
+    return LOOMWRIGHT_CASES_DIR;
+}
 
 std::string ReadFileBytes(const std::string& path) {
     std::ifstream stream(path, std::ios::binary);
@@ -33,6 +36,8 @@ std::vector<std::string> CaseFolders(const std::string& folder) {
     return folders;
 }
 
-bool FileExists(const std::string& path) { return fs::exists(path); }
+bool FileExists(const std::string& path) {
+    return fs::exists(path);
+}
 
 } // namespace lw::test

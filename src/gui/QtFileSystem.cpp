@@ -1,0 +1,40 @@
+#include "QtFileSystem.h"
+
+#include "QtText.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <sstream>
+
+lw::PathKind QtFileSystem::KindOf(const std::string& path) const {
+    const QFileInfo info(PathToQString(path));
+    if (!info.exists())
+        return lw::PathKind::Missing;
+    return info.isDir() ? lw::PathKind::Directory : lw::PathKind::File;
+}
+
+std::unique_ptr<std::istream> QtFileSystem::OpenForReading(const std::string& path) const {
+    QFile file(PathToQString(path));
+    if (QFileInfo(file).isDir() || !file.open(QIODevice::ReadOnly))
+        return nullptr;
+    // The readers work line by line on a standard stream; the files are small
+    // enough to be taken in whole.
+    const QByteArray bytes = file.readAll();
+    return std::make_unique<std::istringstream>(bytes.toStdString());
+}
+
+std::vector<lw::DirectoryEntry> QtFileSystem::ListDirectory(const std::string& path) const {
+    std::vector<lw::DirectoryEntry> entries;
+    const QDir folder(PathToQString(path));
+    const auto infos =
+        folder.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    for (const QFileInfo& info : infos)
+        entries.push_back({PathToStdString(info.fileName()), info.isDir()});
+    return entries;
+}
+
+std::string QtFileSystem::CanonicalPath(const std::string& path) const {
+    const QString canonical = QFileInfo(PathToQString(path)).canonicalFilePath();
+    return canonical.isEmpty() ? path : PathToStdString(canonical);
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+
+// The file system through Qt, which spells file names the platform's way on
+// every system (wide names on Windows, local 8-bit elsewhere).
+class QtFileSystem : public lw::FileSystem {
+public:
+    lw::PathKind KindOf(const std::string& path) const override;
+    std::unique_ptr<std::istream> OpenForReading(const std::string& path) const override;
+    std::vector<lw::DirectoryEntry> ListDirectory(const std::string& path) const override;
+    std::string CanonicalPath(const std::string& path) const override;
+};

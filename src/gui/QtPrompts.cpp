@@ -1,0 +1,45 @@
+#include "QtPrompts.h"
+
+#include "QtText.h"
+#include "app/AppInfo.h"
+
+#include <QMessageBox>
+
+namespace {
+
+QMessageBox::Icon ToQtIcon(lw::MessageIcon icon) {
+    switch (icon) {
+    case lw::MessageIcon::Stop:
+        return QMessageBox::Critical;
+    case lw::MessageIcon::Question:
+        return QMessageBox::Question;
+    case lw::MessageIcon::Warning:
+        return QMessageBox::Warning;
+    case lw::MessageIcon::Information:
+        return QMessageBox::Information;
+    }
+    return QMessageBox::NoIcon;
+}
+
+} // namespace
+
+void QtPrompts::ShowMessage(const std::string& text, lw::MessageIcon icon) {
+    QMessageBox box(ToQtIcon(icon), lw::kApplicationName, ToQString(text), QMessageBox::Ok,
+                    parent_);
+    box.exec();
+}
+
+lw::Answer QtPrompts::Ask(const std::string& question, lw::MessageIcon icon) {
+    QMessageBox box(ToQtIcon(icon), lw::kApplicationName, ToQString(question),
+                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, parent_);
+    box.setDefaultButton(QMessageBox::Yes);
+    box.setEscapeButton(QMessageBox::Cancel);
+    switch (box.exec()) {
+    case QMessageBox::Yes:
+        return lw::Answer::Yes;
+    case QMessageBox::No:
+        return lw::Answer::No;
+    default:
+        return lw::Answer::Cancel;
+    }
+}

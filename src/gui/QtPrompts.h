@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/UserPrompts.h"
+
+class QWidget;
+
+// Message boxes and Yes/No/Cancel questions as modal Qt message boxes,
+// titled with the application's name.
+class QtPrompts : public lw::UserPrompts {
+public:
+    void SetParent(QWidget* parent) { parent_ = parent; }
+
+    void ShowMessage(const std::string& text, lw::MessageIcon icon) override;
+    lw::Answer Ask(const std::string& question, lw::MessageIcon icon) override;
+
+private:
+    QWidget* parent_ = nullptr;
+};

@@ -1,0 +1,44 @@
+#include "InfoCommand.h"
+
+#include "app/Weaver.h"
+#include "platform/MemoryOptionsStore.h"
+#include "platform/NativeFileSystem.h"
+#include "platform/RecordingPrompts.h"
+
+#include <map>
+
+namespace {
+
+std::size_t CountModels(const lw::ModelList& list) {
+    std::size_t count = 0;
+    for (const auto& type : list.types)
+        count += type.second.models.size();
+    return count;
+}
+
+} // namespace
+
+int RunInfoCommand(const ToolArguments& arguments, std::ostream& out) {
+    lw::NativeFileSystem disk;
+    lw::MemoryOptionsStore options;
+    lw::RecordingPrompts prompts;
+    lw::Weaver weaver(prompts, options, disk);
+    weaver.StartUp(arguments.dataFolder);
+
+    for (const std::string& message : prompts.MessageTexts())
+        out << message << "\n";
+
+    std::map<std::string, std::size_t> blocksPerFolder;
+    for (const auto& block : weaver.blockPool.blocks)
+        ++blocksPerFolder[block.second.folder];
+
+    out << "data folder: " << weaver.files.BaseFolder() << "\n";
+    out << "tvd: " << weaver.tvdFolder << "\n";
+    out << "models: " << weaver.modelsPath << " (" << weaver.modelList.types.size() << " types, "
+        << CountModels(weaver.modelList) << " models)\n";
+    out << "actions: " << weaver.actionsPath << " (" << weaver.ruleCatalogue.rules.size()
+        << " rules)\n";
+    for (const std::string& folder : weaver.blockFolders)
+        out << "blocks: " << folder << " (" << blocksPerFolder[folder] << " blocks)\n";
+    return prompts.MessageTexts().empty() ? 0 : 1;
+}
