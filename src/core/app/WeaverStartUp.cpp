@@ -1,11 +1,8 @@
 #include "app/Weaver.h"
-#include "document/ParserUtils.h"
+#include "document/WordLines.h"
 #include "text/Text.h"
-#include "text/TextLines.h"
 
 namespace lw {
-
-using SortieKitSpace::ParserUtils;
 
 void Weaver::StartUp(const std::string& dataFolderPath) {
     dataFolder = LowerCase(dataFolderPath);
@@ -36,9 +33,8 @@ void Weaver::ReadConfiguration() {
     if (!stream)
         return;
     std::string line;
-    while (ReadTextLine(*stream, line)) {
-        std::vector<std::string> words;
-        ParserUtils::parseLineIntoWords(words, line);
+    std::vector<std::string> words;
+    while (ReadWordLine(*stream, line, words)) {
         if (words.size() < 2)
             continue;
         // The prefix applies as the lines come, so "tvd" acts on the lines below it.

@@ -1,9 +1,6 @@
 #include "catalog/ModelList.h"
 
-#include "document/ParserUtils.h"
-#include "text/TextLines.h"
-
-using SortieKitSpace::ParserUtils;
+#include "document/WordLines.h"
 
 namespace lw {
 
@@ -21,13 +18,8 @@ void ModelList::Read(std::istream& stream) {
     parseState = 0;
     currentType.clear();
     std::string line;
-    while (ReadTextLine(stream, line)) {
-        if (line.empty() || line[0] == '#')
-            continue;
-        std::vector<std::string> words;
-        ParserUtils::parseLineIntoWords(words, line);
-        if (words.empty())
-            continue;
+    std::vector<std::string> words;
+    while (ReadWordLine(stream, line, words)) {
         if (parseState == 0 && words[0] == "Type")
             parseState = 1;
         else if (parseState == 1)

@@ -1,9 +1,6 @@
 #include "catalog/RuleCatalogue.h"
 
-#include "document/ParserUtils.h"
-#include "text/TextLines.h"
-
-using SortieKitSpace::ParserUtils;
+#include "document/WordLines.h"
 
 namespace lw {
 
@@ -37,13 +34,8 @@ void RuleCatalogue::Read(std::istream& stream) {
     rules.clear();
     parseState = 0;
     std::string line;
-    while (ReadTextLine(stream, line)) {
-        if (line.empty() || line[0] == '#')
-            continue;
-        std::vector<std::string> words;
-        ParserUtils::parseLineIntoWords(words, line);
-        if (words.empty())
-            continue;
+    std::vector<std::string> words;
+    while (ReadWordLine(stream, line, words)) {
         if (parseState == 0 && words[0] == "Action") {
             rules.emplace_back();
             parseState = 1;

@@ -2,8 +2,8 @@
 
 #include "document/Keywords.h"
 #include "document/ParserUtils.h"
+#include "document/WordLines.h"
 #include "text/Text.h"
-#include "text/TextLines.h"
 
 #include <algorithm>
 #include <cctype>
@@ -169,6 +169,17 @@ bool AtEnd(const std::string& text, std::size_t pos) {
     return pos >= text.size();
 }
 
+// Lines cut by position begin with their tag: moves pos behind it and the
+// separators that follow. False for a line of white space only.
+bool SkipTag(const std::string& text, std::size_t& pos) {
+    SkipWhiteSpace(text, pos);
+    if (AtEnd(text, pos))
+        return false;
+    ParserUtils::getNextWord(text, pos);
+    ParserUtils::eatAuxChars(text, pos);
+    return true;
+}
+
 // The rule part of an action line, from pos behind the action's brackets:
 // "rule(params);condition". False when the line ends before the rule's
 // brackets could begin.
@@ -194,11 +205,8 @@ bool ReadActionRule(ActionDesc& action, const std::string& text, std::size_t pos
 void ReadAction(TemplateDesc& desc, const TemplateLine& line) {
     const std::string& text = line.text;
     std::size_t pos = 0;
-    SkipWhiteSpace(text, pos);
-    if (AtEnd(text, pos))
+    if (!SkipTag(text, pos))
         return;
-    ParserUtils::getNextWord(text, pos);
-    ParserUtils::eatAuxChars(text, pos);
 
     ActionDesc action;
     if (!AtEnd(text, pos))
@@ -254,12 +262,7 @@ void ReadGuiHelperTail(GuiHelperDesc& helper, const std::string& text, std::size
 void ReadGuiHelper(TemplateDesc& desc, const TemplateLine& line) {
     const std::string& text = line.text;
     std::size_t pos = 0;
-    SkipWhiteSpace(text, pos);
-    if (AtEnd(text, pos))
-        return;
-    ParserUtils::getNextWord(text, pos);
-    ParserUtils::eatAuxChars(text, pos);
-    if (AtEnd(text, pos))
+    if (!SkipTag(text, pos) || AtEnd(text, pos))
         return;
 
     GuiHelperDesc helper;
@@ -299,16 +302,7 @@ const Tag kTags[] = {
     {"gui_helper", ReadGuiHelper},
 };
 
-// Only a "#" in the very first column makes a comment.
-bool IsSkipped(const std::string& text) {
-    return text.empty() || text[0] == '#';
-}
-
-void ReadLine(TemplateDesc& desc, const std::string& text) {
-    if (IsSkipped(text))
-        return;
-    Words words;
-    ParserUtils::parseLineIntoWords(words, text);
+void ReadLine(TemplateDesc& desc, const std::string& text, const Words& words) {
     if (words.size() < 2)
         return;
     for (const Tag& tag : kTags) {
@@ -323,8 +317,9 @@ void ReadLine(TemplateDesc& desc, const std::string& text) {
 
 void ReadTemplateDesc(TemplateDesc& desc, std::istream& stream) {
     std::string text;
-    while (ReadTextLine(stream, text))
-        ReadLine(desc, text);
+    Words words;
+    while (ReadWordLine(stream, text, words))
+        ReadLine(desc, text, words);
 }
 
 } // namespace lw
