@@ -25,10 +25,7 @@ private slots:
         QVERIFY(QString::fromStdString(weaver.dataFolder).endsWith("/data"));
         QCOMPARE(QString::fromStdString(weaver.dataFolder),
                  QString::fromStdString(weaver.dataFolder).toLower());
-        QCOMPARE(weaver.blockFolders.size(), std::size_t(3));
-        QVERIFY(weaver.blockPool.blocks.size() >= 20);
-        QVERIFY(!weaver.modelList.types.empty());
-        QVERIFY(weaver.ruleCatalogue.rules.size() >= 16);
+        QVERIFY(!weaver.blockPool.blocks.empty());
     }
 
     void captionIsTheApplicationNameUntilTheFirstRefresh() {

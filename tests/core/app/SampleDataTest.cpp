@@ -5,7 +5,6 @@
 #include "platform/NativeFileSystem.h"
 #include "platform/RecordingPrompts.h"
 #include "support/TestFiles.h"
-#include "text/Text.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -79,14 +78,6 @@ TEST_F(SampleDataTest, StartsWithoutAMessageAndFillsEveryCatalogue) {
     EXPECT_GE(weaver.ruleCatalogue.rules.size(), 16u);
     for (const char* special : {"player model", "by career squadrons", "unique random fighter"})
         EXPECT_EQ(weaver.modelList.types.count(special), 1u) << special;
-}
-
-TEST_F(SampleDataTest, BlockKeysAreLowerCaseAndMixedCaseFilesAreFound) {
-    for (const auto& block : weaver.blockPool.blocks)
-        EXPECT_EQ(block.first, LowerCase(block.first));
-    EXPECT_TRUE(weaver.blockPool.Contains("scg\\0\\blocks\\ground\\convoyroute.group"));
-    EXPECT_FALSE(
-        weaver.blockPool.GetBlock("scg\\0\\blocks\\ground\\convoyroute.group").outputs.empty());
 }
 
 TEST_F(SampleDataTest, TemplatesAreExactlyWhatSavingWrites) {

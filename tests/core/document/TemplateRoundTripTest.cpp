@@ -79,8 +79,3 @@ TEST(TemplateRoundTrip, ReadingWhatWasWrittenGivesTheExportBack) {
     EXPECT_EQ(RoundTrip(ExportedTemplate("<empty>", "<EMPTY>")),
               ExportedTemplate("empty", "EMPTY"));
 }
-
-TEST(TemplateRoundTrip, WritingWhatWasReadGivesTheSameBytes) {
-    const std::string text = TemplateDescText(ExportedTemplate("empty", "EMPTY"));
-    EXPECT_EQ(TemplateDescText(ReadText(text)), text);
-}
