@@ -36,8 +36,4 @@ std::vector<std::string> CaseFolders(const std::string& folder) {
     return folders;
 }
 
-bool FileExists(const std::string& path) {
-    return fs::exists(path);
-}
-
 } // namespace lw::test

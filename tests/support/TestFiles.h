@@ -15,6 +15,4 @@ std::string ReadFileBytes(const std::string& path);
 // The sub-folders of a folder, sorted by name: one per file-based test case.
 std::vector<std::string> CaseFolders(const std::string& folder);
 
-bool FileExists(const std::string& path);
-
 } // namespace lw::test

@@ -21,8 +21,6 @@ namespace lw {
 class Weaver {
 public:
     Weaver(UserPrompts& prompts, OptionsStore& optionsStore, FileSystem& fileSystem);
-    ~Weaver() = default;
-
     Weaver(const Weaver&) = delete;
     Weaver& operator=(const Weaver&) = delete;
 

@@ -9,10 +9,6 @@ bool operator==(const BlockInfo& a, const BlockInfo& b) {
            a.folder == b.folder;
 }
 
-bool operator!=(const BlockInfo& a, const BlockInfo& b) {
-    return !(a == b);
-}
-
 namespace {
 
 bool AllFoundIn(const std::vector<std::string>& names, const std::vector<std::string>& in) {

@@ -27,7 +27,6 @@ public:
 };
 
 bool operator==(const BlockInfo& a, const BlockInfo& b);
-bool operator!=(const BlockInfo& a, const BlockInfo& b);
 
 // Whether `other` can stand in for `info` in a phase: the same numbers of
 // objects and gates, and every object and gate name of `info` found in

@@ -45,6 +45,10 @@ std::string FolderOfKey(const std::string& key) {
     return path;
 }
 
+std::string JoinNative(const std::string& folder, const std::string& name) {
+    return !folder.empty() && folder.back() == '/' ? folder + name : folder + "/" + name;
+}
+
 } // namespace
 
 void BlocksContainer::Load(const std::vector<std::string>& folders) {
@@ -54,22 +58,25 @@ void BlocksContainer::Load(const std::vector<std::string>& folders) {
 }
 
 void BlocksContainer::LoadFolder(const std::string& folder) {
-    std::vector<std::string> paths;
-    EnumerateFiles(paths, folder, "*.Group");
-    for (const std::string& path : paths) {
+    for (const FoundFile& file : FindFiles(folder, "*.Group")) {
         BlockInfo info;
-        if (ReadBlockFile(info, path, false)) {
+        if (ReadBlockFrom(info, file.path, file.reference, false)) {
             info.folder = folder;
-            blocks[path] = info;
+            blocks[file.reference] = info;
         }
     }
 }
 
 bool BlocksContainer::ReadBlockFile(BlockInfo& info, const std::string& path, bool silent) {
+    return ReadBlockFrom(info, path, path, silent);
+}
+
+bool BlocksContainer::ReadBlockFrom(BlockInfo& info, const std::string& path,
+                                    const std::string& shownPath, bool silent) {
     const auto stream = files_.OpenForReading(path);
     if (!stream) {
         if (!silent)
-            prompts_.ShowMessage("Error reading \"" + path + "\" file!", MessageIcon::Stop);
+            prompts_.ShowMessage("Error reading \"" + shownPath + "\" file!", MessageIcon::Stop);
         return false;
     }
     ReadGroupStream(info, *stream);
@@ -102,25 +109,37 @@ std::string BlocksContainer::FirstBlockInFolder(const std::string& folder) const
 
 void BlocksContainer::EnumerateFiles(std::vector<std::string>& list, const std::string& folder,
                                      const std::string& pattern) const {
-    std::set<std::string> visited;
-    EnumerateFolder(list, folder, pattern, visited);
+    for (const FoundFile& file : FindFiles(folder, pattern))
+        list.push_back(file.reference);
 }
 
-void BlocksContainer::EnumerateFolder(std::vector<std::string>& list, const std::string& folder,
-                                      const std::string& pattern,
-                                      std::set<std::string>& visited) const {
+std::vector<BlocksContainer::FoundFile>
+BlocksContainer::FindFiles(const std::string& folder, const std::string& pattern) const {
+    std::vector<FoundFile> found;
+    std::set<std::string> visited;
+    FindFilesIn(found, folder, files_.Resolve(folder), pattern, visited);
+    return found;
+}
+
+// `folder` is the folder as references name it, `nativeFolder` the same
+// folder as the file system spells it.
+void BlocksContainer::FindFilesIn(std::vector<FoundFile>& found, const std::string& folder,
+                                  const std::string& nativeFolder, const std::string& pattern,
+                                  std::set<std::string>& visited) const {
     // A folder reached again through a link would otherwise be walked
     // without end.
-    if (!visited.insert(files_.CanonicalPath(folder)).second)
+    if (!visited.insert(files_.CanonicalPath(nativeFolder)).second)
         return;
-    const std::vector<DirectoryEntry> entries = files_.ListDirectory(folder);
+    const std::vector<DirectoryEntry> entries = files_.ListDirectory(nativeFolder);
     for (const DirectoryEntry& entry : entries) {
         if (!entry.isDirectory && MatchesPattern(pattern, entry.name))
-            list.push_back(LowerCase(folder + "\\" + entry.name));
+            found.push_back(
+                {LowerCase(folder + "\\" + entry.name), JoinNative(nativeFolder, entry.name)});
     }
     for (const DirectoryEntry& entry : entries) {
         if (entry.isDirectory)
-            EnumerateFolder(list, folder + "\\" + entry.name, pattern, visited);
+            FindFilesIn(found, folder + "\\" + entry.name, JoinNative(nativeFolder, entry.name),
+                        pattern, visited);
     }
 }
 

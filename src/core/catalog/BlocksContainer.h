@@ -47,8 +47,19 @@ public:
     std::map<std::string, BlockInfo> blocks;
 
 private:
-    void EnumerateFolder(std::vector<std::string>& list, const std::string& folder,
-                         const std::string& pattern, std::set<std::string>& visited) const;
+    // A file the scan found: its block reference, and its path as the file
+    // system spells it, so that reading it needs no second case-blind lookup.
+    struct FoundFile {
+        std::string reference;
+        std::string path;
+    };
+
+    std::vector<FoundFile> FindFiles(const std::string& folder, const std::string& pattern) const;
+    void FindFilesIn(std::vector<FoundFile>& found, const std::string& folder,
+                     const std::string& nativeFolder, const std::string& pattern,
+                     std::set<std::string>& visited) const;
+    bool ReadBlockFrom(BlockInfo& info, const std::string& path, const std::string& shownPath,
+                       bool silent);
 
     const FileAccess& files_;
     UserPrompts& prompts_;

@@ -170,35 +170,4 @@ inline bool operator==(const TemplateDesc& a, const TemplateDesc& b) {
                                                          b.guiHelpers);
 }
 
-inline bool operator!=(const BlockSetDesc& a, const BlockSetDesc& b) {
-    return !(a == b);
-}
-inline bool operator!=(const PhaseDesc& a, const PhaseDesc& b) {
-    return !(a == b);
-}
-inline bool operator!=(const CaseDesc& a, const CaseDesc& b) {
-    return !(a == b);
-}
-inline bool operator!=(const SwitchDesc& a, const SwitchDesc& b) {
-    return !(a == b);
-}
-inline bool operator!=(const LinkDesc& a, const LinkDesc& b) {
-    return !(a == b);
-}
-inline bool operator!=(const CheckDesc& a, const CheckDesc& b) {
-    return !(a == b);
-}
-inline bool operator!=(const ActionDesc& a, const ActionDesc& b) {
-    return !(a == b);
-}
-inline bool operator!=(const UnlinkDesc& a, const UnlinkDesc& b) {
-    return !(a == b);
-}
-inline bool operator!=(const GuiHelperDesc& a, const GuiHelperDesc& b) {
-    return !(a == b);
-}
-inline bool operator!=(const TemplateDesc& a, const TemplateDesc& b) {
-    return !(a == b);
-}
-
 } // namespace lw

@@ -22,8 +22,4 @@ void MemoryOptionsStore::SetString(const std::string& section, const std::string
     strings_[{section, key}] = value;
 }
 
-bool MemoryOptionsStore::Has(const std::string& section, const std::string& key) const {
-    return ints_.count({section, key}) != 0 || strings_.count({section, key}) != 0;
-}
-
 } // namespace lw

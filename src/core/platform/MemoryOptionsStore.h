@@ -19,8 +19,6 @@ public:
     void SetString(const std::string& section, const std::string& key,
                    const std::string& value) override;
 
-    bool Has(const std::string& section, const std::string& key) const;
-
 private:
     using Key = std::pair<std::string, std::string>;
     std::map<Key, int> ints_;

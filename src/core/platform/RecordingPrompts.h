@@ -27,7 +27,6 @@ public:
 
     const std::vector<Shown>& Log() const { return log_; }
     std::vector<std::string> MessageTexts() const;
-    void Clear() { log_.clear(); }
 
 private:
     Answer fallback_;
