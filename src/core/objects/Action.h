@@ -1,0 +1,55 @@
+#pragma once
+
+#include "objects/EditorObject.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace lw {
+
+// One rule of an action: a keyword of the rule catalogue, or "set_skin",
+// "set_country", "set_model", with its parameters and condition.
+struct ActionRule {
+    std::string ruleName;
+    std::vector<std::string> params;
+    std::string condition;
+};
+
+inline bool operator==(const ActionRule& a, const ActionRule& b) {
+    return a.ruleName == b.ruleName && a.params == b.params && a.condition == b.condition;
+}
+
+// A named list of rules that set a property of what the phase creates.
+class Action : public EditorObject {
+public:
+    explicit Action(std::int32_t id) : EditorObject(id) {}
+
+    ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override {
+        return CentredScreenRect(viewX, viewY, scale, 80, 15);
+    }
+    ObjectKind GetKind() const override { return ObjectKind::Action; }
+
+    std::int32_t phaseId = 0;
+    // The block property the action was made from; empty for one added by hand.
+    std::string objectName;
+    std::string name;
+    std::vector<ActionRule> rules;
+};
+
+struct ActionSnapshot {
+    ActionSnapshot() = default;
+    explicit ActionSnapshot(const Action& object);
+    std::unique_ptr<Action> Rebuild() const;
+
+    std::int32_t id = 0;
+    std::int32_t phaseId = 0;
+    std::string objectName;
+    std::string name;
+    std::vector<ActionRule> rules;
+    std::int32_t posX = 0;
+    std::int32_t posY = 0;
+};
+
+} // namespace lw

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "objects/EditorObject.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace lw {
+
+// A condition on where the generator may place a phase.
+class Check : public EditorObject {
+public:
+    explicit Check(std::int32_t id) : EditorObject(id) {}
+
+    ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override {
+        return CentredScreenRect(viewX, viewY, scale, 15, 15);
+    }
+    ObjectKind GetKind() const override { return ObjectKind::Check; }
+
+    std::int32_t phaseId = 0;
+    // A CheckType; a new check is free.
+    std::int32_t type = 5;
+    std::vector<std::string> params;
+};
+
+struct CheckSnapshot {
+    CheckSnapshot() = default;
+    explicit CheckSnapshot(const Check& object);
+    std::unique_ptr<Check> Rebuild() const;
+
+    std::int32_t id = 0;
+    std::int32_t phaseId = 0;
+    std::int32_t type = 5;
+    std::vector<std::string> params;
+    std::int32_t posX = 0;
+    std::int32_t posY = 0;
+};
+
+// The word that stands for the phase of the primary geometry link, the first
+// parameter of the range, in-radius and in-sector checks.
+inline constexpr const char* kPrimaryLinkPhase = "PRIMARY_LINK_PHASE";
+
+// Whether checks of this type are measured from the phase's primary link.
+bool IsMeasuredFromPrimaryLink(std::int32_t checkType);
+
+} // namespace lw

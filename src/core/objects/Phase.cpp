@@ -1,0 +1,107 @@
+#include "objects/Phase.h"
+
+#include <algorithm>
+
+namespace lw {
+
+namespace {
+
+void AppendIfAbsent(std::vector<std::int32_t>& ids, std::int32_t id) {
+    if (std::find(ids.begin(), ids.end(), id) == ids.end())
+        ids.push_back(id);
+}
+
+void RemoveFirst(std::vector<std::int32_t>& ids, std::int32_t id) {
+    const auto found = std::find(ids.begin(), ids.end(), id);
+    if (found != ids.end())
+        ids.erase(found);
+}
+
+} // namespace
+
+ScreenRect Phase::GetScreenRect(int viewX, int viewY, float scale) const {
+    // The size comes from the scale alone and is added to the truncated
+    // corner, so that every phase has the same size in pixels at any zoom.
+    ScreenRect rect;
+    rect.left = TruncateToInt(static_cast<float>(std::int64_t{posX} + viewX) * scale);
+    rect.top = TruncateToInt(static_cast<float>(std::int64_t{posY} + viewY) * scale);
+    rect.right = rect.left - TruncateToInt(scale * -200.0);
+    rect.bottom = rect.top - TruncateToInt(scale * -150.0);
+    return rect;
+}
+
+void Phase::MarkGateUsed(const std::string& gateName, bool isInput) {
+    std::vector<GateSlot>& gates = isInput ? inputs : outputs;
+    const auto found = std::find_if(gates.begin(), gates.end(),
+                                    [&](const GateSlot& gate) { return gate.name == gateName; });
+    if (found != gates.end())
+        found->openMark = false;
+}
+
+ScreenPoint Phase::GateScreenPoint(const std::string& gateName, bool isInput, float scale,
+                                   int viewX, int viewY) const {
+    const std::vector<GateSlot>& gates = isInput ? inputs : outputs;
+    const auto found = std::find_if(gates.begin(), gates.end(),
+                                    [&](const GateSlot& gate) { return gate.name == gateName; });
+    if (found == gates.end())
+        return ScreenPoint{};
+    const std::int64_t index = found - gates.begin();
+    // The step is an integer division made first: with 150 gates or more it
+    // is 0 and every gate stands level with the top edge.
+    const std::int64_t step = 150 / (static_cast<std::int64_t>(gates.size()) + 1);
+    const std::int64_t x = std::int64_t{posX} + (isInput ? -150 : 350) + viewX;
+    const std::int64_t y = step * (index + 1) + posY + viewY;
+    return ScreenPoint{TruncateToInt(static_cast<float>(x) * scale),
+                       TruncateToInt(static_cast<float>(y) * scale)};
+}
+
+void Phase::NextCheckPoint(std::int32_t& outX, std::int32_t& outY) const {
+    const float offset = static_cast<float>(checkIds.size() * 150) * 0.22f;
+    outX = TruncateToInt(static_cast<double>(static_cast<float>(posX)) + 66.0);
+    outY = TruncateToInt(static_cast<double>(offset) + static_cast<double>(posY) + 172.5);
+}
+
+void Phase::AddCheckId(std::int32_t checkId) {
+    AppendIfAbsent(checkIds, checkId);
+}
+void Phase::AddActionId(std::int32_t actionId) {
+    AppendIfAbsent(actionIds, actionId);
+}
+void Phase::RemoveCheckId(std::int32_t checkId) {
+    RemoveFirst(checkIds, checkId);
+}
+void Phase::RemoveActionId(std::int32_t actionId) {
+    RemoveFirst(actionIds, actionId);
+}
+
+PhaseSnapshot::PhaseSnapshot(const Phase& phase)
+    : id(phase.id), name(phase.name), generationType(phase.generationType), blocks(phase.blocks),
+      blocksFolder(phase.blocksFolder), inputs(phase.inputs), outputs(phase.outputs),
+      blockProperties(phase.blockProperties), geoParams(phase.geoParams),
+      allocationType(phase.allocationType), colorIndex(phase.colorIndex), caseId(phase.caseId),
+      primaryLinkId(phase.primaryLinkId), secondaryLinkId(phase.secondaryLinkId),
+      checkIds(phase.checkIds), actionIds(phase.actionIds), posX(phase.posX), posY(phase.posY) {}
+
+std::unique_ptr<Phase> PhaseSnapshot::Rebuild() const {
+    auto phase = std::make_unique<Phase>(id);
+    phase->name = name;
+    phase->generationType = generationType;
+    phase->blocks = blocks;
+    phase->blocksFolder = blocksFolder;
+    phase->inputs = inputs;
+    phase->outputs = outputs;
+    phase->blockProperties = blockProperties;
+    phase->geoParams = geoParams;
+    phase->allocationType = allocationType;
+    phase->colorIndex = colorIndex;
+    phase->caseId = caseId;
+    phase->primaryLinkId = primaryLinkId;
+    phase->secondaryLinkId = secondaryLinkId;
+    phase->checkIds = checkIds;
+    phase->actionIds = actionIds;
+    phase->posX = posX;
+    phase->posY = posY;
+    return phase;
+}
+
+} // namespace lw

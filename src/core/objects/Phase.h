@@ -1,0 +1,108 @@
+#pragma once
+
+#include "objects/EditorObject.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace lw {
+
+// One gate of a phase; open while no link uses it.
+struct GateSlot {
+    std::string name;
+    bool openMark = true;
+};
+
+inline bool operator==(const GateSlot& a, const GateSlot& b) {
+    return a.name == b.name && a.openMark == b.openMark;
+}
+
+// A canvas point in window pixels.
+struct ScreenPoint {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+};
+
+// The central object of a template: a set of blocks with their gates, how the
+// generator places it, and, by id, its checks and actions. A box of 200 by
+// 150 world units with its position at the top-left corner.
+class Phase : public EditorObject {
+public:
+    static constexpr int kWidth = 200;
+    static constexpr int kHeight = 150;
+
+    explicit Phase(std::int32_t id) : EditorObject(id) {}
+
+    ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override;
+    ObjectKind GetKind() const override { return ObjectKind::Phase; }
+    int GetColorIndex() const override { return colorIndex; }
+
+    // Clears the open mark of the first gate of that name, if any.
+    void MarkGateUsed(const std::string& gateName, bool isInput);
+    // Where the gate stands on the canvas: 150 units left of the box for an
+    // input, right of it for an output, spread over its height in equal
+    // integer steps; (0, 0) for a gate the phase does not have.
+    ScreenPoint GateScreenPoint(const std::string& gateName, bool isInput, float scale, int viewX,
+                                int viewY) const;
+    // Where the phase's next check goes, below the ones it has.
+    void NextCheckPoint(std::int32_t& outX, std::int32_t& outY) const;
+
+    void AddCheckId(std::int32_t checkId);
+    void AddActionId(std::int32_t actionId);
+    void RemoveCheckId(std::int32_t checkId);
+    void RemoveActionId(std::int32_t actionId);
+
+    std::string name;
+    std::int32_t generationType = 4;
+    // Block key ("main" or an additional key) to block reference.
+    std::map<std::string, std::string> blocks;
+    std::string blocksFolder;
+    std::vector<GateSlot> inputs;
+    std::vector<GateSlot> outputs;
+    std::map<std::string, std::vector<std::string>> blockProperties;
+    // The numeric geometry parameters; the geometry links are the two ids.
+    std::vector<std::string> geoParams;
+    std::string allocationType = "clone_location";
+    std::int32_t primaryLinkId = 0;
+    std::int32_t secondaryLinkId = 0;
+    std::int32_t caseId = 0;
+    std::vector<std::int32_t> checkIds;
+    std::vector<std::int32_t> actionIds;
+    std::int32_t colorIndex = 0;
+};
+
+// A value copy of a phase for the undo history, able to make the phase anew
+// under its old id.
+struct PhaseSnapshot {
+    PhaseSnapshot() = default;
+    explicit PhaseSnapshot(const Phase& phase);
+    std::unique_ptr<Phase> Rebuild() const;
+
+    std::int32_t id = 0;
+    std::string name;
+    std::int32_t generationType = 4;
+    std::map<std::string, std::string> blocks;
+    std::string blocksFolder;
+    std::vector<GateSlot> inputs;
+    std::vector<GateSlot> outputs;
+    std::map<std::string, std::vector<std::string>> blockProperties;
+    std::vector<std::string> geoParams;
+    std::string allocationType;
+    std::int32_t colorIndex = 0;
+    std::int32_t caseId = 0;
+    std::int32_t primaryLinkId = 0;
+    std::int32_t secondaryLinkId = 0;
+    std::vector<std::int32_t> checkIds;
+    std::vector<std::int32_t> actionIds;
+    // Filled by a deletion only: the phases whose primary or secondary
+    // geometry link pointed at this one.
+    std::vector<std::int32_t> primaryReferrers;
+    std::vector<std::int32_t> secondaryReferrers;
+    std::int32_t posX = 0;
+    std::int32_t posY = 0;
+};
+
+} // namespace lw

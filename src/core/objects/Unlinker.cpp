@@ -1,0 +1,41 @@
+#include "objects/Unlinker.h"
+
+#include <algorithm>
+
+namespace lw {
+
+namespace {
+
+bool Contains(const std::vector<std::string>& names, const std::string& name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+} // namespace
+
+bool Unlinker::HasInputGate(const std::string& gateName) const {
+    return Contains(inputGates, gateName);
+}
+
+bool Unlinker::HasOutputGate(const std::string& gateName) const {
+    return Contains(outputGates, gateName);
+}
+
+UnlinkerSnapshot::UnlinkerSnapshot(const Unlinker& object)
+    : id(object.id), phaseId(object.phaseId), inputGates(object.inputGates),
+      outputGates(object.outputGates), posX(object.posX), posY(object.posY) {}
+
+std::unique_ptr<Unlinker> UnlinkerSnapshot::Rebuild() const {
+    auto object = std::make_unique<Unlinker>(id);
+    object->phaseId = phaseId;
+    object->inputGates = inputGates;
+    object->outputGates = outputGates;
+    object->posX = posX;
+    object->posY = posY;
+    return object;
+}
+
+std::string StripSetPrefix(const std::string& text) {
+    return text.size() < 8 ? text : text.substr(7);
+}
+
+} // namespace lw
