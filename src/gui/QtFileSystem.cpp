@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <sstream>
 
 lw::PathKind QtFileSystem::KindOf(const std::string& path) const {
@@ -37,4 +38,28 @@ std::vector<lw::DirectoryEntry> QtFileSystem::ListDirectory(const std::string& p
 std::string QtFileSystem::CanonicalPath(const std::string& path) const {
     const QString canonical = QFileInfo(PathToQString(path)).canonicalFilePath();
     return canonical.isEmpty() ? path : PathToStdString(canonical);
+}
+
+bool QtFileSystem::IsReadOnly(const std::string& path) const {
+    const QFileInfo info(PathToQString(path));
+    return info.exists() && !info.isDir() && !info.isWritable();
+}
+
+bool QtFileSystem::ReplaceFile(const std::string& path, const std::string& bytes) {
+    const QFileInfo target(PathToQString(path));
+    if (target.isDir() || IsReadOnly(path) || !target.dir().exists())
+        return false;
+    // QSaveFile writes beside the target and renames only on commit; an
+    // object destroyed uncommitted removes its temporary file. It is never
+    // allowed to fall back to writing the target in place.
+    QSaveFile file(target.filePath());
+    file.setDirectWriteFallback(false);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    const auto size = static_cast<qint64>(bytes.size());
+    if (file.write(bytes.data(), size) != size) {
+        file.cancelWriting();
+        return false;
+    }
+    return file.commit();
 }

@@ -10,4 +10,6 @@ public:
     std::unique_ptr<std::istream> OpenForReading(const std::string& path) const override;
     std::vector<lw::DirectoryEntry> ListDirectory(const std::string& path) const override;
     std::string CanonicalPath(const std::string& path) const override;
+    bool IsReadOnly(const std::string& path) const override;
+    bool ReplaceFile(const std::string& path, const std::string& bytes) override;
 };

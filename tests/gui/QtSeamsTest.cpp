@@ -9,6 +9,39 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#ifndef Q_OS_WIN
+#include <unistd.h>
+#endif
+
+namespace {
+
+bool RunningAsRoot() {
+#ifdef Q_OS_WIN
+    return false;
+#else
+    return ::geteuid() == 0;
+#endif
+}
+
+void MakeFile(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+QByteArray Bytes(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
+}
+
+// Every entry, hidden ones included, so that a stray temporary file shows.
+QStringList Listing(const QString& folder) {
+    return QDir(folder).entryList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+} // namespace
+
 // The Qt implementations of core's seams against the real platform.
 class QtSeamsTest : public QObject {
     Q_OBJECT
@@ -59,6 +92,59 @@ private slots:
         QCOMPARE(entries.size(), std::size_t(1));
         QCOMPARE(entries[0].name, std::string("Blocks"));
         QVERIFY(entries[0].isDirectory);
+    }
+
+    void newAndExistingFilesAreWrittenWholeKeepingPermissions() {
+        QTemporaryDir folder;
+        QVERIFY(folder.isValid());
+        const QString existing = folder.filePath("a.mt");
+        MakeFile(existing, "old and longer content");
+        MakeFile(folder.filePath("plain.txt"), "x");
+        const auto kept = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
+        QVERIFY(QFile::setPermissions(existing, kept));
+        const auto before = QFile::permissions(existing);
+
+        QtFileSystem disk;
+        const std::string bytes("one\r\ntwo\0three", 14);
+        QVERIFY(disk.ReplaceFile(folder.filePath("new.mt").toStdString(), bytes));
+        QVERIFY(disk.ReplaceFile(existing.toStdString(), "new"));
+
+        QCOMPARE(Bytes(folder.filePath("new.mt")), QByteArray::fromStdString(bytes));
+        QCOMPARE(Bytes(existing), QByteArray("new"));
+        QCOMPARE(QFile::permissions(existing), before);
+        QCOMPARE(QFile::permissions(folder.filePath("new.mt")),
+                 QFile::permissions(folder.filePath("plain.txt")));
+        QCOMPARE(Listing(folder.path()), QStringList({"a.mt", "new.mt", "plain.txt"}));
+    }
+
+    void foldersAndMissingFoldersAreRefused() {
+        QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir("sub"));
+        QtFileSystem disk;
+        QVERIFY(!disk.ReplaceFile(folder.filePath("nowhere/a.mt").toStdString(), "x"));
+        QVERIFY(!disk.ReplaceFile(folder.filePath("sub").toStdString(), "x"));
+        QVERIFY(!disk.IsReadOnly(folder.filePath("sub").toStdString()));
+        QVERIFY(!disk.IsReadOnly(folder.filePath("missing.mt").toStdString()));
+        QCOMPARE(Listing(folder.path()), QStringList({"sub"}));
+        QVERIFY(Listing(folder.filePath("sub")).isEmpty());
+    }
+
+    void readOnlyFilesAreRefusedAndUntouched() {
+        if (RunningAsRoot())
+            QSKIP("root may write any file");
+        QTemporaryDir folder;
+        const QString path = folder.filePath("a.mt");
+        MakeFile(path, "old");
+        QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
+
+        QtFileSystem disk;
+        const bool readOnly = disk.IsReadOnly(path.toStdString());
+        const bool replaced = disk.ReplaceFile(path.toStdString(), "new");
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+        QVERIFY(readOnly);
+        QVERIFY(!replaced);
+        QCOMPARE(Bytes(path), QByteArray("old"));
+        QCOMPARE(Listing(folder.path()), QStringList({"a.mt"}));
     }
 
     void missingDisplayIsOneClearLine() {

@@ -76,9 +76,12 @@ std::string FileAccess::Resolve(const std::string& path) const {
         std::string candidate = prefix + name;
         if (name != "." && name != ".." && system_.KindOf(candidate) == PathKind::Missing) {
             const std::string match = MatchIgnoringCase(resolved, name);
-            if (match.empty())
+            if (!match.empty())
+                candidate = prefix + match;
+            else if (mapped.find_first_not_of('/', end) != std::string::npos)
                 return mapped;
-            candidate = prefix + match;
+            // A last name that matches nothing is a file about to be made: it
+            // keeps its spelling, in the folder as the disk spells it.
         }
         resolved = candidate;
     }
@@ -91,6 +94,14 @@ PathKind FileAccess::KindOf(const std::string& path) const {
 
 std::unique_ptr<std::istream> FileAccess::OpenForReading(const std::string& path) const {
     return system_.OpenForReading(Resolve(path));
+}
+
+bool FileAccess::IsReadOnly(const std::string& path) const {
+    return system_.IsReadOnly(Resolve(path));
+}
+
+bool FileAccess::ReplaceFile(const std::string& path, const std::string& bytes) const {
+    return system_.ReplaceFile(Resolve(path), bytes);
 }
 
 std::vector<DirectoryEntry> FileAccess::ListDirectory(const std::string& path) const {

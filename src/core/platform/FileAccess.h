@@ -24,8 +24,9 @@ public:
     void SetBaseFolder(const std::string& folder) { baseFolder_ = folder; }
     const std::string& BaseFolder() const { return baseFolder_; }
 
-    // The native path for `path`: the existing entry if one matches, else the
-    // mapped path as it stands.
+    // The native path for `path`: the existing entry if one matches; a new
+    // name in an existing folder, in the folder as the disk spells it; else
+    // the mapped path as it stands.
     std::string Resolve(const std::string& path) const;
 
     PathKind KindOf(const std::string& path) const;
@@ -33,6 +34,9 @@ public:
     // The entries of a folder sorted by name, so that every platform lists alike.
     std::vector<DirectoryEntry> ListDirectory(const std::string& path) const;
     std::string CanonicalPath(const std::string& path) const;
+    bool IsReadOnly(const std::string& path) const;
+    // Writes the file whole or not at all; see FileSystem::ReplaceFile.
+    bool ReplaceFile(const std::string& path, const std::string& bytes) const;
 
     FileSystem& System() const { return system_; }
 

@@ -37,10 +37,15 @@ void MemoryFileSystem::AddDirectory(const std::string& path) {
 void MemoryFileSystem::Remove(const std::string& path) {
     files_.erase(Normalized(path));
     directories_.erase(Normalized(path));
+    readOnly_.erase(Normalized(path));
 }
 
 void MemoryFileSystem::MakeUnreadable(const std::string& path) {
     unreadable_.insert(Normalized(path));
+}
+
+void MemoryFileSystem::MakeReadOnly(const std::string& path) {
+    readOnly_.insert(Normalized(path));
 }
 
 PathKind MemoryFileSystem::KindOf(const std::string& path) const {
@@ -76,6 +81,24 @@ std::vector<DirectoryEntry> MemoryFileSystem::ListDirectory(const std::string& p
 
 std::string MemoryFileSystem::CanonicalPath(const std::string& path) const {
     return Normalized(path);
+}
+
+bool MemoryFileSystem::IsReadOnly(const std::string& path) const {
+    const std::string key = Normalized(path);
+    return files_.count(key) != 0 && readOnly_.count(key) != 0;
+}
+
+bool MemoryFileSystem::ReplaceFile(const std::string& path, const std::string& bytes) {
+    const bool failing = failNextReplace_;
+    failNextReplace_ = false;
+    const std::string key = Normalized(path);
+    // A bare name lives in the working folder, which always exists.
+    const std::string folder = ParentOf(key);
+    const bool folderExists = folder.empty() || KindOf(folder) == PathKind::Directory;
+    if (failing || !folderExists || KindOf(key) == PathKind::Directory || IsReadOnly(key))
+        return false;
+    files_[key] = bytes;
+    return true;
 }
 
 } // namespace lw

@@ -17,16 +17,24 @@ public:
     void Remove(const std::string& path);
     // A file that exists but cannot be opened, as one without read permission.
     void MakeUnreadable(const std::string& path);
+    // A file that may be read but not written, until it is removed.
+    void MakeReadOnly(const std::string& path);
+    // The next ReplaceFile fails as a full disk would make it: nothing changes.
+    void FailNextReplace() { failNextReplace_ = true; }
 
     PathKind KindOf(const std::string& path) const override;
     std::unique_ptr<std::istream> OpenForReading(const std::string& path) const override;
     std::vector<DirectoryEntry> ListDirectory(const std::string& path) const override;
     std::string CanonicalPath(const std::string& path) const override;
+    bool IsReadOnly(const std::string& path) const override;
+    bool ReplaceFile(const std::string& path, const std::string& bytes) override;
 
 private:
     std::map<std::string, std::string> files_;
     std::set<std::string> directories_;
     std::set<std::string> unreadable_;
+    std::set<std::string> readOnly_;
+    bool failNextReplace_ = false;
 };
 
 } // namespace lw

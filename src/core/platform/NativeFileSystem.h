@@ -11,6 +11,8 @@ public:
     std::unique_ptr<std::istream> OpenForReading(const std::string& path) const override;
     std::vector<DirectoryEntry> ListDirectory(const std::string& path) const override;
     std::string CanonicalPath(const std::string& path) const override;
+    bool IsReadOnly(const std::string& path) const override;
+    bool ReplaceFile(const std::string& path, const std::string& bytes) override;
 };
 
 // The path of the running program; `argv0` is the fallback where the system

@@ -1,0 +1,196 @@
+#include "platform/FileAccess.h"
+#include "platform/MemoryFileSystem.h"
+#include "platform/NativeFileSystem.h"
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
+using namespace lw;
+namespace fs = std::filesystem;
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+bool RunningAsRoot() {
+#ifdef _WIN32
+    return false;
+#else
+    return ::geteuid() == 0;
+#endif
+}
+
+std::string Bytes(const fs::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return in ? text.str() : "<none>";
+}
+
+// Every entry of a folder, hidden ones included, so a stray temporary shows.
+Names Listing(const fs::path& folder) {
+    Names names;
+    for (const auto& entry : fs::directory_iterator(folder))
+        names.push_back(entry.path().filename().u8string());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+class NativeWriting : public ::testing::Test {
+protected:
+    void SetUp() override {
+        const auto stamp = std::chrono::steady_clock::now().time_since_epoch().count();
+        root = fs::temp_directory_path() / ("loomwright-writing-" + std::to_string(stamp));
+        fs::create_directories(root);
+    }
+    void TearDown() override {
+        for (const auto& entry : fs::recursive_directory_iterator(root))
+            fs::permissions(entry.path(), fs::perms::owner_all, fs::perm_options::add);
+        fs::remove_all(root);
+    }
+    std::string At(const std::string& name) const { return (root / name).generic_u8string(); }
+
+    fs::path root;
+    NativeFileSystem disk;
+};
+
+// Binary content with CR LF, a NUL and no final line end must arrive unchanged.
+const std::string kContent("one\r\ntwo\0three", 14);
+
+} // namespace
+
+TEST_F(NativeWriting, ANewFileGetsItsBytesAndDefaultPermissions) {
+    std::ofstream(root / "plain.txt") << "x";
+    ASSERT_TRUE(disk.ReplaceFile(At("new.mt"), kContent));
+    EXPECT_EQ(Bytes(root / "new.mt"), kContent);
+    EXPECT_EQ(fs::status(root / "new.mt").permissions(),
+              fs::status(root / "plain.txt").permissions());
+    EXPECT_EQ(Listing(root), (Names{"new.mt", "plain.txt"}));
+}
+
+TEST_F(NativeWriting, AnExistingFileIsReplacedAndKeepsItsPermissions) {
+    std::ofstream(root / "a.mt") << "old and longer content";
+    const fs::perms kept = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+    fs::permissions(root / "a.mt", kept);
+    ASSERT_TRUE(disk.ReplaceFile(At("a.mt"), "new"));
+    EXPECT_EQ(Bytes(root / "a.mt"), "new");
+    EXPECT_EQ(fs::status(root / "a.mt").permissions(), kept);
+    EXPECT_EQ(Listing(root), (Names{"a.mt"}));
+}
+
+TEST_F(NativeWriting, MissingFoldersAndFolderTargetsAreRefused) {
+    fs::create_directory(root / "sub");
+    EXPECT_FALSE(disk.ReplaceFile(At("nowhere/a.mt"), "x"));
+    EXPECT_FALSE(disk.ReplaceFile(At("sub"), "x"));
+    EXPECT_FALSE(disk.IsReadOnly(At("sub")));
+    EXPECT_FALSE(disk.IsReadOnly(At("missing.mt")));
+    EXPECT_EQ(Listing(root), (Names{"sub"}));
+    EXPECT_TRUE(Listing(root / "sub").empty());
+}
+
+TEST_F(NativeWriting, AReadOnlyFileIsRefusedAndUntouched) {
+    if (RunningAsRoot())
+        GTEST_SKIP() << "root may write any file";
+    std::ofstream(root / "a.mt") << "old";
+    fs::permissions(root / "a.mt", fs::perms::owner_read);
+    EXPECT_TRUE(disk.IsReadOnly(At("a.mt")));
+    EXPECT_FALSE(disk.ReplaceFile(At("a.mt"), "new"));
+    EXPECT_EQ(Bytes(root / "a.mt"), "old");
+    EXPECT_EQ(fs::status(root / "a.mt").permissions(), fs::perms::owner_read);
+    EXPECT_EQ(Listing(root), (Names{"a.mt"}));
+}
+
+#ifndef _WIN32
+TEST_F(NativeWriting, AFolderThatMayNotBeWrittenIsRefused) {
+    if (RunningAsRoot())
+        GTEST_SKIP() << "root may write any folder";
+    fs::create_directory(root / "locked");
+    std::ofstream(root / "locked" / "a.mt") << "old";
+    fs::permissions(root / "locked", fs::perms::owner_read | fs::perms::owner_exec);
+    EXPECT_FALSE(disk.ReplaceFile(At("locked/a.mt"), "new"));
+    EXPECT_FALSE(disk.ReplaceFile(At("locked/b.mt"), "new"));
+    EXPECT_EQ(Bytes(root / "locked" / "a.mt"), "old");
+    EXPECT_EQ(Listing(root / "locked"), (Names{"a.mt"}));
+}
+#endif
+
+TEST_F(NativeWriting, SavingThroughALinkWritesTheFileItNames) {
+    std::ofstream(root / "real.mt") << "old";
+    std::error_code error;
+    fs::create_symlink(root / "real.mt", root / "link.mt", error);
+    if (error)
+        GTEST_SKIP() << "no symbolic links here: " << error.message();
+    ASSERT_TRUE(disk.ReplaceFile(At("link.mt"), "new"));
+    EXPECT_TRUE(fs::is_symlink(root / "link.mt"));
+    EXPECT_EQ(Bytes(root / "real.mt"), "new");
+    EXPECT_EQ(Listing(root), (Names{"link.mt", "real.mt"}));
+}
+
+TEST_F(NativeWriting, FileAccessWritesABackslashPathIntoMixedCaseFolders) {
+    fs::create_directories(root / "Data" / "Scg" / "Templates");
+    std::ofstream(root / "Data" / "Scg" / "Templates" / "Old.mt") << "old";
+    FileAccess files(disk);
+    files.SetBaseFolder(At("Data"));
+
+    ASSERT_TRUE(files.ReplaceFile("scg\\templates\\New.mt", "made"));
+    ASSERT_TRUE(files.ReplaceFile("SCG\\TEMPLATES\\old.mt", "replaced"));
+    const fs::path folder = root / "Data" / "Scg" / "Templates";
+    EXPECT_EQ(Listing(folder), (Names{"New.mt", "Old.mt"}));
+    EXPECT_EQ(Bytes(folder / "New.mt"), "made");
+    EXPECT_EQ(Bytes(folder / "Old.mt"), "replaced");
+    EXPECT_EQ(Listing(root / "Data"), (Names{"Scg"}));
+}
+
+TEST(MemoryWriting, WritesOnlyIntoExistingFoldersAndNeverOverAFolder) {
+    MemoryFileSystem disk;
+    disk.AddFile("/d/a.mt", "old");
+    disk.AddDirectory("/d/sub");
+    EXPECT_TRUE(disk.ReplaceFile("/d/b.mt", "new file"));
+    EXPECT_TRUE(disk.ReplaceFile("/d/a.mt", "replaced"));
+    EXPECT_FALSE(disk.ReplaceFile("/nowhere/c.mt", "x"));
+    EXPECT_FALSE(disk.ReplaceFile("/d/sub", "x"));
+    EXPECT_EQ(disk.KindOf("/nowhere"), PathKind::Missing);
+    EXPECT_EQ(disk.KindOf("/d/sub"), PathKind::Directory);
+    std::string line;
+    std::getline(*disk.OpenForReading("/d/a.mt"), line);
+    EXPECT_EQ(line, "replaced");
+    EXPECT_EQ(disk.ListDirectory("/d").size(), 3u);
+}
+
+TEST(MemoryWriting, ReadOnlyFilesAndAFullDiskKeepTheOldContent) {
+    MemoryFileSystem disk;
+    FileAccess files(disk);
+    files.SetBaseFolder("/Data");
+    disk.AddFile("/Data/Scg/Locked.mt", "locked");
+    disk.AddFile("/Data/Scg/Open.mt", "open");
+    disk.MakeReadOnly("/Data/Scg/Locked.mt");
+    disk.MakeReadOnly("/Data/Scg/Never.mt");
+    auto content = [&](const std::string& path) {
+        std::string line;
+        std::getline(*files.OpenForReading(path), line);
+        return line;
+    };
+
+    EXPECT_TRUE(files.IsReadOnly("scg\\locked.mt"));
+    EXPECT_FALSE(files.IsReadOnly("scg\\open.mt"));
+    EXPECT_FALSE(files.IsReadOnly("scg\\never.mt"));
+    EXPECT_FALSE(files.ReplaceFile("scg\\locked.mt", "new"));
+    EXPECT_EQ(content("scg\\locked.mt"), "locked");
+
+    disk.FailNextReplace();
+    EXPECT_FALSE(files.ReplaceFile("scg\\open.mt", "new"));
+    EXPECT_EQ(content("scg\\open.mt"), "open");
+    EXPECT_TRUE(files.ReplaceFile("scg\\open.mt", "new"));
+    EXPECT_EQ(content("scg\\open.mt"), "new");
+
+    EXPECT_FALSE(files.ReplaceFile("scg\\missing\\a.mt", "x"));
+    EXPECT_EQ(files.KindOf("scg\\missing"), PathKind::Missing);
+}
