@@ -1,0 +1,184 @@
+#include "operations/ObjectStore.h"
+
+#include <algorithm>
+
+namespace lw {
+
+namespace {
+
+// Visits the elements of the list, or of the store without one, in order.
+template <typename Visit>
+void ForEachIn(const std::vector<std::unique_ptr<EditorObject>>& objects, const ObjectList* list,
+               Visit visit) {
+    if (list != nullptr) {
+        for (EditorObject* object : *list) {
+            if (visit(object))
+                return;
+        }
+        return;
+    }
+    for (const auto& object : objects) {
+        if (visit(object.get()))
+            return;
+    }
+}
+
+} // namespace
+
+EditorObject* ObjectStore::FindObject(std::int32_t id) const {
+    // Ids are unique in the store, so the index gives the same object as a
+    // walk of the list would.
+    const auto found = objectIndex.find(id);
+    return found == objectIndex.end() ? nullptr : found->second;
+}
+
+template <typename T>
+T* ObjectStore::FindByName(const std::string& name, const ObjectList* list) const {
+    T* result = nullptr;
+    ForEachIn(objects, list, [&](EditorObject* object) {
+        T* candidate = As<T>(object);
+        if (candidate != nullptr && candidate->name == name)
+            result = candidate;
+        return result != nullptr;
+    });
+    return result;
+}
+
+Phase* ObjectStore::FindPhaseByName(const std::string& name, const ObjectList* list) const {
+    return FindByName<Phase>(name, list);
+}
+
+Case* ObjectStore::FindCaseByName(const std::string& name, const ObjectList* list) const {
+    return FindByName<Case>(name, list);
+}
+
+Action* ObjectStore::FindActionOf(const std::string& phaseName, const std::string& objectName,
+                                  const std::string& actionName, const ObjectList* list) const {
+    Action* result = nullptr;
+    ForEachIn(objects, list, [&](EditorObject* object) {
+        Action* action = As<Action>(object);
+        if (action == nullptr || action->objectName != objectName || action->name != actionName)
+            return false;
+        const Phase* phase = FindPhase(action->phaseId);
+        if (phase != nullptr && phase->name == phaseName)
+            result = action;
+        return result != nullptr;
+    });
+    return result;
+}
+
+template <typename T> bool ObjectStore::NameTaken(std::int32_t id, const std::string& name) const {
+    return std::any_of(objects.begin(), objects.end(), [&](const auto& object) {
+        const T* candidate = As<T>(object.get());
+        return candidate != nullptr && candidate->name == name && candidate->id != id;
+    });
+}
+
+bool ObjectStore::PhaseNameTaken(std::int32_t id, const std::string& name) const {
+    return NameTaken<Phase>(id, name);
+}
+
+bool ObjectStore::CaseNameTaken(std::int32_t id, const std::string& name) const {
+    return NameTaken<Case>(id, name);
+}
+
+bool ObjectStore::SwitchNameTaken(std::int32_t id, const std::string& name) const {
+    return NameTaken<Switch>(id, name);
+}
+
+bool ObjectStore::HasPhaseAction(const Phase& phase, const std::string& actionName,
+                                 const std::string& objectName) const {
+    if (actionName == "Script")
+        return true;
+    return std::any_of(phase.actionIds.begin(), phase.actionIds.end(), [&](std::int32_t id) {
+        const Action* action = As<Action>(FindObject(id));
+        return action != nullptr && action->name == actionName && action->objectName == objectName;
+    });
+}
+
+template <typename T> T* ObjectStore::Create() {
+    T* object = static_cast<T*>(Restore(std::make_unique<T>(nextId)));
+    ++nextId;
+    return object;
+}
+
+Phase* ObjectStore::NewPhase() {
+    Phase* phase = Create<Phase>();
+    phase->name = "phase_" + std::to_string(phase->id);
+    return phase;
+}
+
+Case* ObjectStore::NewCase() {
+    Case* object = Create<Case>();
+    object->name = "case_" + std::to_string(object->id);
+    return object;
+}
+
+Switch* ObjectStore::NewSwitch() {
+    Switch* object = Create<Switch>();
+    object->name = "switch_" + std::to_string(object->id);
+    return object;
+}
+
+Check* ObjectStore::NewCheck() {
+    return Create<Check>();
+}
+Action* ObjectStore::NewAction() {
+    return Create<Action>();
+}
+Unlinker* ObjectStore::NewUnlinker() {
+    return Create<Unlinker>();
+}
+
+EditorObject* ObjectStore::Restore(std::unique_ptr<EditorObject> object) {
+    EditorObject* entered = object.get();
+    objectIndex[entered->id] = entered;
+    objects.push_back(std::move(object));
+    return entered;
+}
+
+void ObjectStore::RemoveObject(EditorObject* object) {
+    if (object == nullptr)
+        return;
+    const auto found = std::find_if(objects.begin(), objects.end(),
+                                    [&](const auto& owned) { return owned.get() == object; });
+    if (found == objects.end())
+        return;
+    const auto indexed = objectIndex.find(object->id);
+    if (indexed != objectIndex.end() && indexed->second == object)
+        objectIndex.erase(indexed);
+    objects.erase(found);
+}
+
+void ObjectStore::RemoveLink(const Link& link) {
+    const auto found = std::find(links.begin(), links.end(), link);
+    if (found != links.end())
+        links.erase(found);
+}
+
+void ObjectStore::RefreshGateMarks() {
+    for (const auto& object : objects) {
+        if (Phase* phase = As<Phase>(object.get())) {
+            for (GateSlot& gate : phase->inputs)
+                gate.openMark = true;
+            for (GateSlot& gate : phase->outputs)
+                gate.openMark = true;
+        }
+    }
+    for (const Link& link : links) {
+        if (Phase* from = FindPhase(link.fromPhaseId))
+            from->MarkGateUsed(link.fromGate, false);
+        if (Phase* to = FindPhase(link.toPhaseId))
+            to->MarkGateUsed(link.toGate, true);
+    }
+}
+
+void ObjectStore::ClearObjects() {
+    selection.Clear();
+    nextId = 1;
+    objects.clear();
+    links.clear();
+    objectIndex.clear();
+}
+
+} // namespace lw

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "objects/Action.h"
+#include "objects/Case.h"
+#include "objects/Check.h"
+#include "objects/Link.h"
+#include "objects/ObjectsGroup.h"
+#include "objects/Phase.h"
+#include "objects/Switch.h"
+#include "objects/Unlinker.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace lw {
+
+// A non-owning list of objects, such as the objects an import is building;
+// where a lookup is given one it searches that list instead of the store.
+using ObjectList = std::vector<EditorObject*>;
+
+// The document: every object in order of creation (the painting and the
+// search order), the links, the selection and the issuing of ids. Objects
+// refer to each other by id, and nothing here keeps those references sound:
+// whoever reads one skips an id that no longer resolves.
+class ObjectStore {
+public:
+    ObjectStore() = default;
+    ObjectStore(const ObjectStore&) = delete;
+    ObjectStore& operator=(const ObjectStore&) = delete;
+    virtual ~ObjectStore() = default;
+
+    // Lookups: names compare exactly, and the first hit in list order wins.
+    EditorObject* FindObject(std::int32_t id) const;
+    Phase* FindPhase(std::int32_t id) const { return As<Phase>(FindObject(id)); }
+    Case* FindCase(std::int32_t id) const { return As<Case>(FindObject(id)); }
+    Switch* FindSwitch(std::int32_t id) const { return As<Switch>(FindObject(id)); }
+    Phase* FindPhaseByName(const std::string& name, const ObjectList* list = nullptr) const;
+    Case* FindCaseByName(const std::string& name, const ObjectList* list = nullptr) const;
+    // The first action in the list with these names whose phase, looked up
+    // in the whole store, is called `phaseName`.
+    Action* FindActionOf(const std::string& phaseName, const std::string& objectName,
+                         const std::string& actionName, const ObjectList* list = nullptr) const;
+    bool PhaseNameTaken(std::int32_t id, const std::string& name) const;
+    bool CaseNameTaken(std::int32_t id, const std::string& name) const;
+    bool SwitchNameTaken(std::int32_t id, const std::string& name) const;
+    // Whether the phase has an action of these names; "Script" never makes
+    // an action, so it counts as present.
+    bool HasPhaseAction(const Phase& phase, const std::string& actionName,
+                        const std::string& objectName) const;
+
+    // Creation under the next id. The object has no position until its
+    // creator gives it one, and stands in the store from the start.
+    Phase* NewPhase();
+    Case* NewCase();
+    Switch* NewSwitch();
+    Check* NewCheck();
+    Action* NewAction();
+    Unlinker* NewUnlinker();
+
+    // Enters an object rebuilt under its old id at the end of the list.
+    EditorObject* Restore(std::unique_ptr<EditorObject> object);
+    // Destroys the object. The selection and other objects' references to it
+    // are the caller's matter.
+    void RemoveObject(EditorObject* object);
+    // Removes the first equal link; the gate marks stay until refreshed.
+    void RemoveLink(const Link& link);
+    // Opens every gate, then closes those that a link uses.
+    void RefreshGateMarks();
+
+    // Empties the selection and the store; ids start again at 1.
+    void ClearObjects();
+
+    std::vector<std::unique_ptr<EditorObject>> objects;
+    std::vector<Link> links;
+    ObjectsGroup selection;
+    std::int32_t nextId = 1;
+    std::map<std::int32_t, EditorObject*> objectIndex;
+
+private:
+    template <typename T> T* Create();
+    template <typename T> T* FindByName(const std::string& name, const ObjectList* list) const;
+    template <typename T> bool NameTaken(std::int32_t id, const std::string& name) const;
+};
+
+} // namespace lw

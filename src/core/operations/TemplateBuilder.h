@@ -1,0 +1,76 @@
+#pragma once
+
+#include "catalog/BlocksContainer.h"
+#include "document/TemplateDesc.h"
+#include "objects/Link.h"
+#include "operations/ObjectStore.h"
+#include "platform/UserPrompts.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace lw {
+
+// Turns a TemplateDesc, in which everything is named, into objects of the
+// store, which refer to each other by id. A damaged template is built as far
+// as it goes: each record stands for itself, the user is told about the worst
+// of what had to be left out, and the operation as a whole never fails.
+//
+// The same steps read a template into an empty document and import one into
+// the open document. For an import the caller passes a list: every lookup by
+// name is then made in that list only, so that the imported names refer to
+// the imported objects, and everything built is appended to it.
+//
+// The builders consume `desc`: they erase the block sets and gui helper
+// records that they use, so that a second object of the same look takes the
+// next record.
+class TemplateBuilder {
+public:
+    TemplateBuilder(ObjectStore& store, BlocksContainer& blockPool, UserPrompts& prompts);
+
+    // Runs the six builders in their fixed order: each finds the objects of
+    // the ones before, and the ids follow that order. `madeLinks`, when
+    // given, collects a copy of each link made.
+    void Build(TemplateDesc& desc, ObjectList* list = nullptr,
+               std::vector<Link>* madeLinks = nullptr);
+
+    void BuildPhases(TemplateDesc& desc, ObjectList* list);
+    void BuildLinks(TemplateDesc& desc, ObjectList* list, std::vector<Link>* madeLinks);
+    void BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list);
+    void BuildChecks(TemplateDesc& desc, ObjectList* list);
+    void BuildActions(TemplateDesc& desc, ObjectList* list);
+    void BuildUnlinkers(TemplateDesc& desc, ObjectList* list);
+
+private:
+    // The objects a search walks: the list if given, else the whole store.
+    ObjectList SearchScope(const ObjectList* list) const;
+    void ShowStop(const std::string& text);
+
+    // Phases.
+    void PlacePhase(TemplateDesc& desc, Phase& phase, std::int32_t& colorIndex);
+    void TakeBlocks(TemplateDesc& desc, Phase& phase, const std::string& blockSetName);
+    bool EnsureBlockInPool(const std::string& reference);
+    void TakeGatesFromFirstBlock(Phase& phase);
+    void ResolveGeometryLinks(Phase& phase, const ObjectList* list);
+    // Erases the first geometry word and returns the phase it names, if any.
+    const Phase* TakeGeometryLink(Phase& phase, const ObjectList* list);
+
+    // Links.
+    bool AddLink(const LinkDesc& linkDesc, const ObjectList* list, std::vector<Link>* madeLinks);
+
+    // Positions of the other objects.
+    static void PlaceByName(TemplateDesc& desc, EditorObject& object, const std::string& name);
+    static void PlaceCheck(TemplateDesc& desc, Check& check, const CheckDesc& checkDesc);
+    static void PlaceAction(TemplateDesc& desc, Action& action, const ActionDesc& actionDesc);
+    static void PlaceUnlinker(const TemplateDesc& desc, Unlinker& unlinker,
+                              const std::string& phaseName);
+
+    Unlinker* FindUnlinkerOf(std::int32_t phaseId, const ObjectList* list) const;
+
+    ObjectStore& store_;
+    BlocksContainer& blockPool_;
+    UserPrompts& prompts_;
+};
+
+} // namespace lw

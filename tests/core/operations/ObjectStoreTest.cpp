@@ -1,0 +1,158 @@
+#include "operations/ObjectStore.h"
+
+#include <gtest/gtest.h>
+
+using namespace lw;
+
+namespace {
+
+using Ids = std::vector<std::int32_t>;
+
+Ids IdsInOrder(const ObjectStore& store) {
+    Ids ids;
+    for (const auto& object : store.objects)
+        ids.push_back(object->id);
+    return ids;
+}
+
+} // namespace
+
+TEST(ObjectStoreTest, IdsGrowAndAreNeverReused) {
+    ObjectStore store;
+    Phase* phase = store.NewPhase();
+    EXPECT_EQ(phase->id, 1);
+    EXPECT_EQ(phase->name, "phase_1");
+    EXPECT_EQ(store.NewCase()->name, "case_2");
+    EXPECT_EQ(store.NewSwitch()->name, "switch_3");
+    store.RemoveObject(store.FindObject(2));
+    store.RemoveObject(store.FindObject(3));
+    store.RemoveObject(nullptr);
+    EXPECT_EQ(store.NewCheck()->id, 4);
+    EXPECT_EQ(store.NewAction()->id, 5);
+    EXPECT_EQ(store.NewUnlinker()->id, 6);
+    EXPECT_EQ(IdsInOrder(store), (Ids{1, 4, 5, 6}));
+    EXPECT_EQ(store.objectIndex.size(), 4u);
+    EXPECT_EQ(store.FindObject(0), nullptr);
+    EXPECT_EQ(store.FindObject(2), nullptr);
+
+    store.ClearObjects();
+    EXPECT_TRUE(store.objects.empty());
+    EXPECT_TRUE(store.objectIndex.empty());
+    EXPECT_EQ(store.NewPhase()->id, 1);
+}
+
+TEST(ObjectStoreTest, KindSpecificLookupsRefuseOtherKinds) {
+    ObjectStore store;
+    Case* object = store.NewCase();
+    object->name = "same";
+    Phase* phase = store.NewPhase();
+    phase->name = "same";
+    EXPECT_EQ(store.FindPhase(object->id), nullptr);
+    EXPECT_EQ(store.FindCase(object->id), object);
+    EXPECT_EQ(store.FindSwitch(object->id), nullptr);
+    EXPECT_EQ(store.FindPhaseByName("same"), phase);
+    EXPECT_EQ(store.FindCaseByName("same"), object);
+    EXPECT_EQ(store.FindPhaseByName("SAME"), nullptr);
+
+    // The name tests are separate for each kind and skip the asking object.
+    EXPECT_FALSE(store.PhaseNameTaken(phase->id, "same"));
+    EXPECT_TRUE(store.PhaseNameTaken(0, "same"));
+    EXPECT_FALSE(store.SwitchNameTaken(0, "same"));
+    store.NewPhase()->name = "same";
+    EXPECT_TRUE(store.PhaseNameTaken(phase->id, "same"));
+}
+
+TEST(ObjectStoreTest, LookupsFindTheFirstInListOrderAlsoAfterARestore) {
+    ObjectStore store;
+    Phase* first = store.NewPhase();
+    Phase* second = store.NewPhase();
+    first->name = second->name = "twin";
+    EXPECT_EQ(store.FindPhaseByName("twin"), first);
+
+    // A restored object goes to the end of the list under its old id, so the
+    // other twin is now first in list order.
+    const PhaseSnapshot snapshot(*first);
+    store.RemoveObject(first);
+    Phase* restored = As<Phase>(store.Restore(snapshot.Rebuild()));
+    EXPECT_EQ(IdsInOrder(store), (Ids{2, 1}));
+    EXPECT_EQ(store.FindObject(1), restored);
+    EXPECT_EQ(store.FindPhaseByName("twin"), second);
+    EXPECT_EQ(store.nextId, 3);
+}
+
+TEST(ObjectStoreTest, ARestrictingListLimitsTheSearch) {
+    ObjectStore store;
+    Case* outside = store.NewCase();
+    outside->name = "c";
+    Case* inside = store.NewCase();
+    inside->name = "other";
+    ObjectList list{inside};
+    EXPECT_EQ(store.FindCaseByName("c", &list), nullptr);
+    EXPECT_EQ(store.FindCaseByName("other", &list), inside);
+    const ObjectList empty;
+    EXPECT_EQ(store.FindCaseByName("other", &empty), nullptr);
+}
+
+TEST(ObjectStoreTest, ActionsAreFoundByTheirNamesAndTheirPhasesName) {
+    ObjectStore store;
+    Phase* phase = store.NewPhase();
+    phase->name = "p";
+    Action* orphan = store.NewAction();
+    orphan->objectName = "Plane";
+    orphan->name = "Skin";
+    Action* action = store.NewAction();
+    action->phaseId = phase->id;
+    action->objectName = "Plane";
+    action->name = "Skin";
+    EXPECT_EQ(store.FindActionOf("p", "Plane", "Skin"), action);
+    EXPECT_EQ(store.FindActionOf("q", "Plane", "Skin"), nullptr);
+    // The phase is looked up in the whole store also when a list is given.
+    ObjectList list{action};
+    EXPECT_EQ(store.FindActionOf("p", "Plane", "Skin", &list), action);
+
+    phase->AddActionId(orphan->id);
+    phase->AddActionId(999);
+    phase->AddActionId(action->id);
+    EXPECT_TRUE(store.HasPhaseAction(*phase, "Skin", "Plane"));
+    EXPECT_FALSE(store.HasPhaseAction(*phase, "Skin", "Ship"));
+    EXPECT_TRUE(store.HasPhaseAction(*phase, "Script", "anything"));
+}
+
+TEST(ObjectStoreTest, GateMarksFollowTheLinks) {
+    ObjectStore store;
+    Phase* from = store.NewPhase();
+    Phase* to = store.NewPhase();
+    from->outputs = {GateSlot{"done", true}};
+    to->inputs = {GateSlot{"go", true}, GateSlot{"go2", false}};
+    const Link link{true, from->id, "done", to->id, "go"};
+    store.links = {Link{true, from->id, "missing", 99, "go"}, link};
+    store.RefreshGateMarks();
+    EXPECT_FALSE(from->outputs[0].openMark);
+    EXPECT_FALSE(to->inputs[0].openMark);
+    EXPECT_TRUE(to->inputs[1].openMark);
+
+    Link other = link;
+    other.isObjectLink = false;
+    store.RemoveLink(other);
+    EXPECT_EQ(store.links.size(), 2u);
+    store.RemoveLink(link);
+    EXPECT_EQ(store.links.size(), 1u);
+    // The mark stays until the next refresh.
+    EXPECT_FALSE(to->inputs[0].openMark);
+    store.RefreshGateMarks();
+    EXPECT_TRUE(to->inputs[0].openMark);
+}
+
+TEST(ObjectStoreTest, ClearingEmptiesTheSelectionFirst) {
+    ObjectStore store;
+    ViewTransform view;
+    store.selection.view = &view;
+    store.selection.Add(store.NewCase());
+    store.selection.Recalculate();
+    store.links.push_back(Link{});
+    store.ClearObjects();
+    EXPECT_TRUE(store.selection.members.empty());
+    EXPECT_EQ(store.selection.bounds, ScreenRect{});
+    EXPECT_TRUE(store.links.empty());
+    EXPECT_EQ(store.nextId, 1);
+}

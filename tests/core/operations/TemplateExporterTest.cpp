@@ -1,0 +1,247 @@
+#include "operations/TemplateExporter.h"
+
+#include <gtest/gtest.h>
+
+using namespace lw;
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+class TemplateExporterTest : public ::testing::Test {
+protected:
+    TemplateDesc Export() const {
+        TemplateDesc desc;
+        ExportToDesc(store, desc);
+        return desc;
+    }
+
+    Phase* AddPhase(const std::string& name, std::int32_t generationType = GenerationRandom) {
+        Phase* phase = store.NewPhase();
+        phase->name = name;
+        phase->generationType = generationType;
+        return phase;
+    }
+
+    // The geometry parameters written for one phase linked to `primary` and
+    // `secondary`.
+    Words GeoParams(std::int32_t generationType, std::int32_t primary, std::int32_t secondary,
+                    const Words& params) {
+        Phase* phase = AddPhase("geo", generationType);
+        phase->primaryLinkId = primary;
+        phase->secondaryLinkId = secondary;
+        phase->geoParams = params;
+        const TemplateDesc desc = Export();
+        store.RemoveObject(phase);
+        for (const PhaseDesc& record : desc.phases) {
+            if (record.name == "geo")
+                return record.geoParams;
+        }
+        return {"not exported"};
+    }
+
+    static Words HelperNames(const TemplateDesc& desc) {
+        Words names;
+        for (const GuiHelperDesc& helper : desc.guiHelpers)
+            names.push_back(helper.objectName);
+        return names;
+    }
+
+    ObjectStore store;
+};
+
+TEST_F(TemplateExporterTest, EachPhaseHasItsOwnBlockSetAndAHelperWithItsColour) {
+    const std::map<std::string, std::string> blocks = {{"main", "a\\b.group"}, {"x", "c.group"}};
+    for (const char* name : {"a", "b"}) {
+        Phase* phase = AddPhase(name);
+        phase->blocks = blocks;
+        phase->inputs = {{"in", true}};
+        phase->blockProperties["main"] = {"p"};
+    }
+    Phase* phase = store.FindPhase(2);
+    phase->primaryLinkId = 1;
+    phase->geoParams = {"10", "20"};
+    phase->allocationType = "unique";
+    phase->blocksFolder = "folder";
+    phase->posX = -5;
+    phase->posY = 7;
+    phase->colorIndex = 3;
+
+    const TemplateDesc desc = Export();
+    EXPECT_EQ(desc.blockSets,
+              (std::vector<BlockSetDesc>{{"blocks_a", blocks}, {"blocks_b", blocks}}));
+    ASSERT_EQ(desc.phases.size(), 2u);
+    EXPECT_EQ(
+        desc.phases[1],
+        (PhaseDesc{"b", GenerationRandom, {"a", "10", "20"}, "blocks_b", "unique", "folder"}));
+    ASSERT_EQ(desc.guiHelpers.size(), 2u);
+    EXPECT_EQ(desc.guiHelpers[1], (GuiHelperDesc{"b", -5, 7, "", "", 3}));
+}
+
+TEST_F(TemplateExporterTest, GeometryLinksLeadTheParametersByGenerationType) {
+    const std::int32_t first = AddPhase("first")->id;
+    const std::int32_t second = AddPhase("second")->id;
+    const std::int32_t aCase = store.NewCase()->id;
+
+    EXPECT_EQ(GeoParams(GenerationAt, 0, 0, {}), Words{"<EMPTY>"});
+    EXPECT_EQ(GeoParams(GenerationLine, 0, 0, {"1", "2", "3"}),
+              (Words{"<EMPTY>", "<EMPTY>", "1", "2", "3"}));
+    EXPECT_EQ(GeoParams(GenerationFractal, first, second, {"1"}), (Words{"first", "second", "1"}));
+    EXPECT_EQ(GeoParams(GenerationAzimuth, first, second, {"1"}), (Words{"first", "1"}));
+    // An id naming an object of another kind is no link.
+    EXPECT_EQ(GeoParams(GenerationLine, aCase, 99, {}), (Words{"<EMPTY>", "<EMPTY>"}));
+    for (std::int32_t type :
+         {GenerationServerSetPos, GenerationServerWaypoint, GenerationServerTargetPos})
+        EXPECT_EQ(GeoParams(type, first, second, {"1", "2"}), (Words{"1", "2"})) << type;
+}
+
+TEST_F(TemplateExporterTest, CasesAndSwitchesNameOnlyWhatResolves) {
+    const std::int32_t kept = AddPhase("kept")->id;
+    Phase* removed = AddPhase("removed");
+    Case* aCase = store.NewCase();
+    aCase->name = "c";
+    aCase->phaseIds = {removed->id, kept, aCase->id};
+    aCase->posX = 4;
+    Switch* aSwitch = store.NewSwitch();
+    aSwitch->name = "s";
+    aSwitch->number = 2;
+    aSwitch->preliminaryCheck = 3;
+    aSwitch->planeType = 1;
+    aSwitch->caseIds = {aCase->id, 99};
+    aSwitch->posY = 8;
+    store.RemoveObject(removed);
+
+    const TemplateDesc desc = Export();
+    EXPECT_EQ(desc.cases, (std::vector<CaseDesc>{{"c", {"kept"}}}));
+    EXPECT_EQ(desc.switches, (std::vector<SwitchDesc>{{"s", 2, 3, 1, {"c"}}}));
+    EXPECT_EQ(desc.guiHelpers[1], (GuiHelperDesc{"c", 4, 0, "", "", 0}));
+    EXPECT_EQ(desc.guiHelpers[2], (GuiHelperDesc{"s", 0, 8, "", "", 0}));
+}
+
+TEST_F(TemplateExporterTest, LinksNeedBothPhases) {
+    const std::int32_t from = AddPhase("from")->id;
+    Phase* removed = AddPhase("removed");
+    const std::int32_t aCase = store.NewCase()->id;
+    store.links = {{false, from, "no such gate", from, "in"},
+                   {true, from, "out", removed->id, "in"},
+                   {true, aCase, "out", from, "in"}};
+    store.RemoveObject(removed);
+
+    EXPECT_EQ(Export().links,
+              (std::vector<LinkDesc>{{false, "from", "no such gate", "from", "in"}}));
+}
+
+TEST_F(TemplateExporterTest, ChecksOfMeasuredTypesNameThePrimaryLinkPhase) {
+    const std::int32_t phase = AddPhase("p")->id;
+    const auto addCheck = [&](std::int32_t type, const Words& params) {
+        Check* check = store.NewCheck();
+        check->phaseId = phase;
+        check->type = type;
+        check->params = params;
+        return check;
+    };
+    addCheck(CheckRange, {});
+    const Check* inRadius = addCheck(CheckInRadius, {"other", "500"});
+    addCheck(CheckInSector, {"other"});
+    addCheck(CheckFree, {"other"});
+    addCheck(CheckCoalition, {"1"})->posX = 6;
+
+    const TemplateDesc desc = Export();
+    EXPECT_EQ(desc.checks,
+              (std::vector<CheckDesc>{{"p", CheckRange, {"PRIMARY_LINK_PHASE"}},
+                                      {"p", CheckInRadius, {"PRIMARY_LINK_PHASE", "500"}},
+                                      {"p", CheckInSector, {"PRIMARY_LINK_PHASE"}},
+                                      {"p", CheckFree, {"other"}},
+                                      {"p", CheckCoalition, {"1"}}}));
+    EXPECT_EQ(desc.guiHelpers.back(), (GuiHelperDesc{"check", 6, 0, "p", "coalition", 0}));
+    EXPECT_EQ(desc.guiHelpers[1].detail, "range");
+    // The object keeps what the file does not.
+    EXPECT_EQ(inRadius->params, (Words{"other", "500"}));
+}
+
+TEST_F(TemplateExporterTest, ActionsWriteOneRecordPerRule) {
+    const std::int32_t phase = AddPhase("p")->id;
+    Action* bare = store.NewAction();
+    bare->phaseId = phase;
+    bare->name = "bare";
+    bare->objectName = "obj";
+    Action* ruled = store.NewAction();
+    ruled->phaseId = phase;
+    ruled->name = "ruled";
+    ruled->rules = {{"r1", {"a", "b"}, "cond"}, {"r2", {}, ""}};
+    ruled->posY = 3;
+
+    const TemplateDesc desc = Export();
+    EXPECT_EQ(desc.actions, (std::vector<ActionDesc>{{"p", "obj", "bare", "<empty>", {}, ""},
+                                                     {"p", "", "ruled", "r1", {"a", "b"}, "cond"},
+                                                     {"p", "", "ruled", "r2", {}, ""}}));
+    EXPECT_EQ(desc.guiHelpers[1], (GuiHelperDesc{"bare", 0, 0, "p", "obj", 0}));
+    EXPECT_EQ(desc.guiHelpers[2], (GuiHelperDesc{"ruled", 0, 3, "p", "", 0}));
+}
+
+TEST_F(TemplateExporterTest, UnlinkersNameTheBlockSetAndVanishWithoutGates) {
+    const std::int32_t phase = AddPhase("p")->id;
+    const auto addUnlinker = [&](const Words& inputs, const Words& outputs) {
+        Unlinker* unlinker = store.NewUnlinker();
+        unlinker->phaseId = phase;
+        unlinker->inputGates = inputs;
+        unlinker->outputGates = outputs;
+        unlinker->posX = unlinker->id;
+        return unlinker;
+    };
+    addUnlinker({"i1", "i2"}, {"o"});
+    addUnlinker({}, {});
+    addUnlinker({}, {"o2"});
+
+    const TemplateDesc desc = Export();
+    EXPECT_EQ(desc.unlinks, (std::vector<UnlinkDesc>{{true, "blocks_p", {"i1", "i2"}},
+                                                     {false, "blocks_p", {"o"}},
+                                                     {false, "blocks_p", {"o2"}}}));
+    EXPECT_EQ(HelperNames(desc), (Words{"p", "unlink_p", "unlink_p"}));
+    EXPECT_EQ(desc.guiHelpers[2].x, 4);
+}
+
+TEST_F(TemplateExporterTest, ObjectsWithoutAPhaseLeaveNoTrace) {
+    Phase* removed = AddPhase("removed");
+    const std::int32_t aCase = store.NewCase()->id;
+    for (std::int32_t phaseId : {0, removed->id, aCase}) {
+        store.NewCheck()->phaseId = phaseId;
+        Action* action = store.NewAction();
+        action->phaseId = phaseId;
+        action->rules = {{"r", {}, ""}};
+        Unlinker* unlinker = store.NewUnlinker();
+        unlinker->phaseId = phaseId;
+        unlinker->inputGates = {"g"};
+    }
+    store.RemoveObject(removed);
+
+    const TemplateDesc desc = Export();
+    EXPECT_TRUE(desc.checks.empty());
+    EXPECT_TRUE(desc.actions.empty());
+    EXPECT_TRUE(desc.unlinks.empty());
+    EXPECT_EQ(HelperNames(desc), Words{"case_2"});
+}
+
+TEST_F(TemplateExporterTest, RecordsFollowObjectOrderAndHelpersGoKindByKind) {
+    Unlinker* unlinker = store.NewUnlinker();
+    Switch* aSwitch = store.NewSwitch();
+    Phase* second = AddPhase("second");
+    Check* check = store.NewCheck();
+    Action* action = store.NewAction();
+    Case* aCase = store.NewCase();
+    Phase* first = AddPhase("first");
+    Check* firstCheck = store.NewCheck();
+    unlinker->phaseId = check->phaseId = action->phaseId = second->id;
+    unlinker->outputGates = {"o"};
+    action->name = "act";
+    firstCheck->phaseId = first->id;
+
+    const TemplateDesc desc = Export();
+    EXPECT_EQ(desc.phases[0].name, "second");
+    EXPECT_EQ(desc.blockSets[1].name, "blocks_first");
+    EXPECT_EQ(desc.checks[1].phaseName, "first");
+    EXPECT_EQ(HelperNames(desc), (Words{"second", "first", aCase->name, aSwitch->name, "check",
+                                        "check", "act", "unlink_second"}));
+}
+
+} // namespace
