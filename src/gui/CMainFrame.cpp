@@ -6,23 +6,42 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QKeySequence>
+#include <QMenuBar>
 
 CMainFrame::CMainFrame(QWidget* parent)
-    : QMainWindow(parent), weaver_(prompts_, optionsStore_, fileSystem_) {
+    : QMainWindow(parent), weaver_(prompts_, optionsStore_, fileSystem_),
+      fileCommands_(weaver_, fileDialogs_) {
     // Until the first refresh of the title the caption is the program's name alone.
     setWindowTitle(lw::kApplicationName);
     prompts_.SetParent(this);
+    fileDialogs_.SetParent(this);
 }
 
-bool CMainFrame::OnCreate() {
+bool CMainFrame::OnCreate(const std::string& dataFolder) {
     view_.setParent(this);
     setCentralWidget(&view_);
+    CreateFileMenu();
     resize(1024, 768);
     weaver_.SetViewHost(this);
+    weaver_.SetView(&view_);
 
     const QString program = QCoreApplication::applicationFilePath();
-    weaver_.StartUp(lw::DataFolderForExecutable(PathToStdString(program)));
+    weaver_.StartUp(dataFolder.empty() ? lw::DataFolderForExecutable(PathToStdString(program))
+                                       : dataFolder);
     return true;
+}
+
+void CMainFrame::CreateFileMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    menu->addAction(tr("New"), QKeySequence(Qt::CTRL | Qt::Key_N), [this] { fileCommands_.New(); });
+    menu->addAction(tr("Open"), QKeySequence(Qt::CTRL | Qt::Key_O),
+                    [this] { fileCommands_.Open(); });
+    menu->addAction(tr("Save"), QKeySequence(Qt::CTRL | Qt::Key_S),
+                    [this] { fileCommands_.Save(); });
+    menu->addAction(tr("Save As"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+                    [this] { fileCommands_.SaveAs(); });
+    menu->addAction(tr("E&xit"), [this] { close(); });
 }
 
 void CMainFrame::SetTitle(const std::string& title) {
@@ -34,6 +53,10 @@ void CMainFrame::Repaint() {
 }
 
 void CMainFrame::closeEvent(QCloseEvent* event) {
+    if (!fileCommands_.ConfirmClose()) {
+        event->ignore();
+        return;
+    }
     weaver_.options.Save(optionsStore_);
     optionsStore_.Flush();
     event->accept();

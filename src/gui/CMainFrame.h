@@ -1,9 +1,11 @@
 #pragma once
 
 #include "CChildView.h"
+#include "QtFileDialogs.h"
 #include "QtFileSystem.h"
 #include "QtOptionsStore.h"
 #include "QtPrompts.h"
+#include "app/FileCommands.h"
 #include "app/Weaver.h"
 #include "platform/ViewHost.h"
 
@@ -17,23 +19,29 @@ class CMainFrame : public QMainWindow, public lw::ViewHost {
 public:
     explicit CMainFrame(QWidget* parent = nullptr);
 
-    // Builds the window's parts, finds the data folder next to the program,
-    // and starts Weaver on it.
-    bool OnCreate();
+    // Builds the window's parts and starts Weaver on the data folder: by
+    // default the one two levels above the program.
+    bool OnCreate(const std::string& dataFolder = std::string());
 
     lw::Weaver& weaver() { return weaver_; }
+    lw::FileCommands& fileCommands() { return fileCommands_; }
     CChildView& view() { return view_; }
 
     void SetTitle(const std::string& title) override;
     void Repaint() override;
 
 protected:
+    // Asks about unsaved changes first; a close that goes on saves the options.
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void CreateFileMenu();
+
     QtPrompts prompts_;
+    QtFileDialogs fileDialogs_;
     QtOptionsStore optionsStore_;
     QtFileSystem fileSystem_;
     CChildView view_;
     lw::Weaver weaver_;
+    lw::FileCommands fileCommands_;
 };

@@ -1,10 +1,37 @@
 #include "CMainFrame.h"
 #include "app/AppInfo.h"
 
+#include <QApplication>
 #include <QImage>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QtTest>
+
+namespace {
+
+// Answers the next modal message box with `button` once it shows, and keeps
+// its text.
+void AnswerNextMessageBox(QMessageBox::StandardButton button, QString* text) {
+    QTimer::singleShot(0, [button, text] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr) {
+            AnswerNextMessageBox(button, text);
+            return;
+        }
+        *text = box->text();
+        box->button(button)->click();
+    });
+}
+
+void SetLastUsedTemplate(const QString& name) {
+    QSettings settings(lw::kOrganizationName, lw::kApplicationName);
+    settings.setValue("LoomwrightOptions/LastUsedTemplateName", name);
+}
+
+} // namespace
 
 // The editor started on the bundled sample data, as the README's run command
 // starts it: the window, its caption, its canvas and what it read at start.
@@ -30,7 +57,7 @@ private slots:
 
     void captionIsTheApplicationNameUntilTheFirstRefresh() {
         CMainFrame frame;
-        QVERIFY(frame.OnCreate());
+        QVERIFY(frame.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
         QCOMPARE(frame.windowTitle(), QString(lw::kApplicationName));
         frame.weaver().fileName = "scg\\sample_small.mt";
         frame.weaver().RefreshTitle();
@@ -41,7 +68,7 @@ private slots:
 
     void canvasIsWhiteInsideABlackFrame() {
         CMainFrame frame;
-        QVERIFY(frame.OnCreate());
+        QVERIFY(frame.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
         frame.show();
         QVERIFY(QTest::qWaitForWindowExposed(&frame));
         const QImage canvas = frame.view().grab().toImage();
@@ -55,7 +82,7 @@ private slots:
     void closingSavesTheOptions() {
         {
             CMainFrame frame;
-            QVERIFY(frame.OnCreate());
+            QVERIFY(frame.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
             frame.weaver().options.DrawChecks = true;
             frame.weaver().options.SetLastUsedTemplateName("scg\\sample_rich.mt");
             frame.show();
@@ -68,8 +95,33 @@ private slots:
         QCOMPARE(settings.value("LastUsedTemplateName").toString(), QString("scg\\sample_rich.mt"));
 
         CMainFrame next;
-        QVERIFY(next.OnCreate());
+        QVERIFY(next.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
         QVERIFY(next.weaver().options.DrawChecks);
+    }
+
+    void opensTheLastUsedTemplateAtStart() {
+        SetLastUsedTemplate("scg\\sample_rich.mt");
+        CMainFrame frame;
+        QVERIFY(frame.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
+        QCOMPARE(frame.windowTitle(), QString("Loomwright - scg\\sample_rich.mt"));
+        QVERIFY(frame.weaver().objects.size() > 17);
+        QCOMPARE(frame.weaver().selection.view, &frame.view());
+    }
+
+    void closingWithChangesAsksFirst() {
+        SetLastUsedTemplate("");
+        CMainFrame frame;
+        QVERIFY(frame.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
+        frame.show();
+        frame.weaver().undoManager.Push(nullptr);
+        QString question;
+        AnswerNextMessageBox(QMessageBox::Cancel, &question);
+        QVERIFY(!frame.close());
+        QCOMPARE(question,
+                 QString("Template file has been changed, do you want to save your changes?"));
+        QVERIFY(frame.isVisible());
+        AnswerNextMessageBox(QMessageBox::No, &question);
+        QVERIFY(frame.close());
     }
 
 private:

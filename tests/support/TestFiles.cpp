@@ -1,5 +1,7 @@
 #include "support/TestFiles.h"
 
+#include "platform/MemoryFileSystem.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -24,6 +26,16 @@ std::string ReadFileBytes(const std::string& path) {
     std::ostringstream bytes;
     bytes << stream.rdbuf();
     return bytes.str();
+}
+
+void CopyFolderIntoMemory(const std::string& folder, MemoryFileSystem& memory,
+                          const std::string& target) {
+    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+        if (entry.is_regular_file()) {
+            const std::string relative = fs::relative(entry.path(), folder).generic_string();
+            memory.AddFile(target + "/" + relative, ReadFileBytes(entry.path().string()));
+        }
+    }
 }
 
 std::vector<std::string> CaseFolders(const std::string& folder) {

@@ -8,6 +8,10 @@ Weaver::Weaver(UserPrompts& prompts, OptionsStore& optionsStore, FileSystem& fil
     : prompts(prompts), optionsStore(optionsStore), files(fileSystem), blockPool(files, prompts),
       undoManager(this) {}
 
+Weaver::~Weaver() {
+    ClearDocument();
+}
+
 std::string Weaver::Title() const {
     return std::string(kApplicationName) + " - " + fileName + (undoManager.changed ? "*" : "");
 }
@@ -15,6 +19,11 @@ std::string Weaver::Title() const {
 void Weaver::RefreshTitle() {
     if (viewHost != nullptr)
         viewHost->SetTitle(Title());
+}
+
+void Weaver::Repaint() {
+    if (viewHost != nullptr)
+        viewHost->Repaint();
 }
 
 } // namespace lw

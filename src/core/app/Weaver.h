@@ -4,6 +4,8 @@
 #include "catalog/BlocksContainer.h"
 #include "catalog/ModelList.h"
 #include "catalog/RuleCatalogue.h"
+#include "document/TemplateDesc.h"
+#include "operations/ObjectStore.h"
 #include "platform/FileAccess.h"
 #include "platform/OptionsStore.h"
 #include "platform/UserPrompts.h"
@@ -16,13 +18,13 @@
 namespace lw {
 
 // The central object: it owns the catalogues, the command history, the
-// options and the document, and every operation on them goes through it. The
-// platform reaches it only through the seams it is given.
-class Weaver {
+// options and the document (the store it derives from), and every operation
+// on them goes through it. The platform reaches it only through the seams it
+// is given.
+class Weaver : public ObjectStore {
 public:
     Weaver(UserPrompts& prompts, OptionsStore& optionsStore, FileSystem& fileSystem);
-    Weaver(const Weaver&) = delete;
-    Weaver& operator=(const Weaver&) = delete;
+    ~Weaver() override;
 
     // Everything the program does at start once its window exists: the data
     // folder, the configuration, the catalogues and the options.
@@ -31,11 +33,26 @@ public:
     // Reads "scg\Loomwright.ini" from the data folder.
     void ReadConfiguration();
 
+    // Empties the document and its history; the caller repaints.
+    void ClearDocument();
+    // Replaces the document by the file's content; a file that does not open
+    // leaves an empty document. False when it did not open.
+    bool LoadTemplateFile(const std::string& path);
+    // Writes the document to `fileName`, whole or not at all. False, with the
+    // document still changed, when it could not be written.
+    bool SaveTemplateFile();
+    // Builds the objects of a template read into an empty document; consumes `desc`.
+    void BuildFromDesc(TemplateDesc& desc);
+    void ExportToDesc(TemplateDesc& desc) const;
+
     // "Loomwright - " with the template's path and a "*" while it has changes.
     std::string Title() const;
     void RefreshTitle();
+    void Repaint();
 
     void SetViewHost(ViewHost* host) { viewHost = host; }
+    // The canvas whose offset and scale the selection's bounds follow.
+    void SetView(const ViewTransform* canvasView) { selection.view = canvasView; }
 
     // The seams, in the order they must be built.
     UserPrompts& prompts;

@@ -19,6 +19,8 @@ void Weaver::StartUp(const std::string& dataFolderPath) {
     undoManager.ClearRedoStack();
     undoManager.changed = false;
     options.Load(optionsStore);
+    if (options.OpenLastUsedTemplateOnStart && !options.LastUsedTemplateName.empty())
+        LoadTemplateFile(options.LastUsedTemplateName);
 }
 
 template <typename Catalogue>

@@ -1,0 +1,117 @@
+#include "app/FileCommands.h"
+
+#include "app/Weaver.h"
+#include "text/Text.h"
+
+#include <algorithm>
+
+namespace lw {
+
+namespace {
+
+const char* const kSaveQuestion = "Template has been changed. Do you want to save changes?";
+const char* const kCloseQuestion =
+    "Template file has been changed, do you want to save your changes?";
+
+FileRequest TemplateRequest(const std::string& fileName, const std::string& subFolder) {
+    return FileRequest{fileName, FileCommands::kTemplateFilter, subFolder,
+                       FileCommands::kTemplateExtension};
+}
+
+} // namespace
+
+bool FileCommands::AskToSaveChanges(const char* question) {
+    if (!weaver_.undoManager.changed)
+        return true;
+    switch (weaver_.prompts.Ask(question, MessageIcon::Question)) {
+    case Answer::Cancel:
+        return false;
+    case Answer::Yes:
+        // A save that failed or was cancelled keeps the document changed.
+        Save();
+        return !weaver_.undoManager.changed;
+    case Answer::No:
+        return true;
+    }
+    return false;
+}
+
+void FileCommands::New() {
+    if (!AskToSaveChanges(kSaveQuestion))
+        return;
+    weaver_.ClearDocument();
+    weaver_.RefreshTitle();
+    weaver_.Repaint();
+}
+
+void FileCommands::Open() {
+    if (!AskToSaveChanges(kSaveQuestion))
+        return;
+    FileRequest request = TemplateRequest("", "scg");
+    if (ChooseFileToOpen(request))
+        weaver_.LoadTemplateFile(request.fileName);
+}
+
+void FileCommands::Save() {
+    if (weaver_.fileName.empty())
+        SaveAs();
+    else
+        weaver_.SaveTemplateFile();
+}
+
+void FileCommands::SaveAs() {
+    FileRequest request = TemplateRequest("default.mt", "");
+    if (!ChooseFileToSave(request))
+        return;
+    weaver_.fileName = request.fileName;
+    weaver_.SaveTemplateFile();
+}
+
+bool FileCommands::ConfirmClose() {
+    return AskToSaveChanges(kCloseQuestion);
+}
+
+std::string FileCommands::StartFolder(const FileRequest& request) const {
+    const std::string& folder = weaver_.files.BaseFolder();
+    if (request.subFolder.empty())
+        return folder;
+    return weaver_.files.Resolve(request.subFolder);
+}
+
+bool FileCommands::RelativeToDataFolder(const std::string& chosenPath,
+                                        std::string& relative) const {
+    const std::string path = LowerCase(ToForwardSlashes(chosenPath));
+    std::string folder = ToForwardSlashes(weaver_.dataFolder);
+    if (folder.empty() || path.compare(0, folder.size(), folder) != 0)
+        return false;
+    // Behind the folder comes exactly one separator, unless the folder ends in one.
+    std::size_t begin = folder.size();
+    if (folder.back() != '/') {
+        if (path.size() <= begin || path[begin] != '/')
+            return false;
+        ++begin;
+    }
+    relative = path.substr(begin);
+    std::replace(relative.begin(), relative.end(), '/', '\\');
+    return !relative.empty();
+}
+
+bool FileCommands::ChooseFileToOpen(FileRequest& request) {
+    std::string chosen;
+    if (!dialogs_.ShowOpenDialog(StartFolder(request), request, chosen))
+        return false;
+    return RelativeToDataFolder(chosen, request.fileName);
+}
+
+bool FileCommands::ChooseFileToSave(FileRequest& request) {
+    std::string chosen;
+    if (!dialogs_.ShowSaveDialog(StartFolder(request), request, chosen))
+        return false;
+    if (weaver_.files.System().IsReadOnly(chosen)) {
+        weaver_.prompts.ShowMessage("This file is Read Only!", MessageIcon::Stop);
+        return false;
+    }
+    return RelativeToDataFolder(chosen, request.fileName);
+}
+
+} // namespace lw

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/FileDialogs.h"
+
+namespace lw {
+
+class Weaver;
+
+// The File commands of the main window and the question at its close. Every
+// template path they hand on is relative to the data folder, in lower case
+// with "\" separators: a file outside the data folder cannot be chosen.
+class FileCommands {
+public:
+    static constexpr const char* kTemplateFilter = "Mission Template Files (*.mt)|*.mt||";
+    static constexpr const char* kTemplateExtension = "*.mt";
+
+    FileCommands(Weaver& weaver, FileDialogs& dialogs) : weaver_(weaver), dialogs_(dialogs) {}
+
+    void New();
+    void Open();
+    void Save();
+    void SaveAs();
+
+    // Asked before the main window closes: true when it may close.
+    bool ConfirmClose();
+
+    // The dialogs of the commands: true when `request.fileName` holds the
+    // chosen path relative to the data folder.
+    bool ChooseFileToOpen(FileRequest& request);
+    bool ChooseFileToSave(FileRequest& request);
+
+private:
+    // Offers to save unsaved changes first: false when the command must stop.
+    bool AskToSaveChanges(const char* question);
+    std::string StartFolder(const FileRequest& request) const;
+    // The chosen path relative to the data folder, or false for one outside it.
+    bool RelativeToDataFolder(const std::string& chosenPath, std::string& relative) const;
+
+    Weaver& weaver_;
+    FileDialogs& dialogs_;
+};
+
+} // namespace lw
