@@ -1,9 +1,6 @@
 #include "InfoCommand.h"
 
-#include "app/Weaver.h"
-#include "platform/MemoryOptionsStore.h"
-#include "platform/NativeFileSystem.h"
-#include "platform/RecordingPrompts.h"
+#include "ToolSession.h"
 
 #include <map>
 
@@ -19,13 +16,10 @@ std::size_t CountModels(const lw::ModelList& list) {
 } // namespace
 
 int RunInfoCommand(const ToolArguments& arguments, std::ostream& out) {
-    lw::NativeFileSystem disk;
-    lw::MemoryOptionsStore options;
-    lw::RecordingPrompts prompts;
-    lw::Weaver weaver(prompts, options, disk);
-    weaver.StartUp(arguments.dataFolder);
-
-    for (const std::string& message : prompts.MessageTexts())
+    ToolSession session(arguments.dataFolder);
+    const lw::Weaver& weaver = session.weaver;
+    const std::vector<std::string> messages = session.TakeMessages();
+    for (const std::string& message : messages)
         out << message << "\n";
 
     std::map<std::string, std::size_t> blocksPerFolder;
@@ -40,5 +34,5 @@ int RunInfoCommand(const ToolArguments& arguments, std::ostream& out) {
         << " rules)\n";
     for (const std::string& folder : weaver.blockFolders)
         out << "blocks: " << folder << " (" << blocksPerFolder[folder] << " blocks)\n";
-    return prompts.MessageTexts().empty() ? 0 : 1;
+    return messages.empty() ? 0 : 1;
 }

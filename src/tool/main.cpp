@@ -1,4 +1,5 @@
 #include "InfoCommand.h"
+#include "TemplateCommands.h"
 #include "ToolArguments.h"
 #include "app/DataFolder.h"
 #include "platform/NativeFileSystem.h"
@@ -15,15 +16,27 @@ const char* const kUsage =
     "Works on mission templates without the editor's window.\n"
     "\n"
     "commands:\n"
-    "  info     show what the editor reads from the data folder at start:\n"
+    "  check [--data DIR] TEMPLATE...\n"
+    "           load each template as the editor opens it and print every message\n"
+    "           the editor would show, one line each: the template's path, \": \",\n"
+    "           then the message's exact text\n"
+    "  normalize [--data DIR] IN OUT\n"
+    "           load IN as the editor opens it and write OUT as the editor saves\n"
+    "           it; the messages are printed without a prefix\n"
+    "  info [--data DIR]\n"
+    "           show what the editor reads from the data folder at start:\n"
     "           the configuration, the model and rule catalogues, the block folders\n"
     "\n"
     "options:\n"
     "  --data DIR  the data folder; by default the one the editor uses,\n"
     "              two levels above this program, then \"data\"\n"
     "\n"
+    "TEMPLATE, IN and OUT are ordinary paths, relative to the working folder;\n"
+    "the block files a template names are found in the data folder.\n"
+    "\n"
     "exit status: 0 when no message was shown, 1 when at least one was,\n"
-    "2 for a usage error.\n";
+    "2 for a usage error or a template that cannot be read (\"Can't open\n"
+    "template file!\") or written (\"Can't save template file!\").\n";
 
 } // namespace
 
@@ -45,8 +58,13 @@ int main(int argc, char** argv) {
         std::cerr << "loomwright-tool: " << arguments.error << "\n" << kUsage;
         return 2;
     }
-    if (words[0] == "info" && arguments.positional.empty())
+    const std::size_t count = arguments.positional.size();
+    if (words[0] == "info" && count == 0)
         return RunInfoCommand(arguments, std::cout);
+    if (words[0] == "check" && count > 0)
+        return RunCheckCommand(arguments, std::cout);
+    if (words[0] == "normalize" && count == 2)
+        return RunNormalizeCommand(arguments, std::cout);
 
     std::cerr << "loomwright-tool: unknown command or arguments: " << words[0] << "\n" << kUsage;
     return 2;

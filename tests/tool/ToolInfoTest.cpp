@@ -1,33 +1,8 @@
+#include "ToolRun.h"
 #include "support/TestFiles.h"
 
-#include <array>
-#include <cstdio>
 #include <gtest/gtest.h>
 #include <string>
-
-namespace {
-
-struct ToolRun {
-    std::string output;
-    int status = -1;
-};
-
-ToolRun RunTool(const std::string& arguments) {
-    const std::string command = std::string(LOOMWRIGHT_TOOL) + " " + arguments + " 2>&1";
-    ToolRun run;
-    FILE* pipe = popen(command.c_str(), "r");
-    if (pipe == nullptr)
-        return run;
-    std::array<char, 4096> buffer;
-    std::size_t count = 0;
-    while ((count = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
-        run.output.append(buffer.data(), count);
-    const int status = pclose(pipe);
-    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return run;
-}
-
-} // namespace
 
 TEST(ToolInfoTest, FindsTheSampleDataNextToTheBuildByItself) {
     const ToolRun run = RunTool("info");

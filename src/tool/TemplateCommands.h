@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ToolArguments.h"
+
+#include <ostream>
+
+// `check TEMPLATE...`: loads each template as the editor opens it and prints
+// every message, prefixed with the template's path and ": ".
+int RunCheckCommand(const ToolArguments& arguments, std::ostream& out);
+
+// `normalize IN OUT`: loads IN as the editor opens it and writes OUT as the
+// editor saves it, printing the messages.
+int RunNormalizeCommand(const ToolArguments& arguments, std::ostream& out);
+
+// Exit status of the template commands.
+enum ToolStatus { kNoMessage = 0, kMessageShown = 1, kFailure = 2 };

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "app/Weaver.h"
+#include "platform/MemoryOptionsStore.h"
+#include "platform/NativeFileSystem.h"
+#include "platform/RecordingPrompts.h"
+
+#include <string>
+#include <vector>
+
+// The editor without its window: a Weaver started on a data folder, with the
+// real file system, options that are never stored, and message boxes that
+// are kept for printing.
+class ToolSession {
+public:
+    explicit ToolSession(const std::string& dataFolder);
+
+    // The texts of the messages shown since the last call.
+    std::vector<std::string> TakeMessages();
+
+    lw::NativeFileSystem disk;
+    lw::MemoryOptionsStore options;
+    lw::RecordingPrompts prompts;
+    lw::Weaver weaver{prompts, options, disk};
+
+private:
+    std::size_t messagesTaken_ = 0;
+};
+
+// A path given on the command line, relative to the working folder, made
+// absolute so that it does not resolve against the data folder.
+std::string CommandLinePath(const std::string& path);

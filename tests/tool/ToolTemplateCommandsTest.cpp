@@ -1,0 +1,113 @@
+#include "ToolRun.h"
+#include "support/TestFiles.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+
+namespace fs = std::filesystem;
+using lw::test::ReadFileBytes;
+
+namespace {
+
+const std::string kDataOption = "--data " + Quoted(lw::test::SampleDataDir()) + " ";
+
+class ToolTemplateCommandsTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        folder = fs::temp_directory_path() /
+                 ("loomwright-tool-" +
+                  std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+    }
+    void TearDown() override { fs::remove_all(folder); }
+
+    std::string Path(const std::string& name) const { return (folder / name).string(); }
+    std::string Write(const std::string& name, const std::string& bytes) const {
+        std::ofstream(Path(name), std::ios::binary) << bytes;
+        return Path(name);
+    }
+    ToolRun Normalize(const std::string& in, const std::string& out) const {
+        return RunTool("normalize " + kDataOption + Quoted(in) + " " + Quoted(out));
+    }
+
+    fs::path folder;
+};
+
+const char* const kBadLink = "tlink; Nowhere(done); Also(go);\r\n";
+
+} // namespace
+
+TEST_F(ToolTemplateCommandsTest, NormalizeReproducesEverySampleByteForByte) {
+    for (const char* name : {"sample_small.mt", "sample_rich.mt", "sample_convoy.mt"}) {
+        const std::string in = lw::test::SampleDataDir() + "/scg/" + name;
+        const ToolRun run = Normalize(in, Path(name));
+        EXPECT_EQ(run.status, 0) << name << ": " << run.output;
+        EXPECT_EQ(run.output, "") << name;
+        EXPECT_EQ(ReadFileBytes(Path(name)), ReadFileBytes(in)) << name;
+    }
+}
+
+// Each folder below cases/normalize holds input.mt, the expected.mt that
+// normalize writes of it, and the messages.txt it prints.
+TEST_F(ToolTemplateCommandsTest, NormalizeCases) {
+    const auto cases = lw::test::CaseFolders(lw::test::CasesDir() + "/normalize");
+    ASSERT_FALSE(cases.empty());
+    for (const std::string& caseFolder : cases) {
+        const ToolRun run = Normalize(caseFolder + "/input.mt", Path("out.mt"));
+        const std::string messages = ReadFileBytes(caseFolder + "/messages.txt");
+        EXPECT_EQ(run.output, messages) << caseFolder;
+        EXPECT_EQ(run.status, messages.empty() ? 0 : 1) << caseFolder;
+        EXPECT_EQ(ReadFileBytes(Path("out.mt")), ReadFileBytes(caseFolder + "/expected.mt"))
+            << caseFolder;
+    }
+}
+
+TEST_F(ToolTemplateCommandsTest, CheckPrefixesEachMessageWithItsTemplate) {
+    const std::string bad = Write("bad.mt", kBadLink);
+    const std::string good = lw::test::SampleDataDir() + "/scg/sample_small.mt";
+    ToolRun run = RunTool("check " + kDataOption + Quoted(good));
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.output, "");
+
+    run = RunTool("check " + kDataOption + Quoted(bad) + " " + Quoted(good) + " " + Quoted(bad));
+    EXPECT_EQ(run.status, 1);
+    const std::string expected =
+        bad + ": Can't find From phase for link\n" + bad + ": Error adding link!\n";
+    EXPECT_EQ(run.output, expected + expected);
+
+    // A path relative to the working folder.
+    run = RunTool("check " + kDataOption + "bad.mt", folder.string());
+    EXPECT_EQ(run.output, "bad.mt: Can't find From phase for link\nbad.mt: Error adding link!\n");
+}
+
+TEST_F(ToolTemplateCommandsTest, UnreadableOrUnwritableFilesExitWithTwo) {
+    const std::string good = lw::test::SampleDataDir() + "/scg/sample_small.mt";
+    ToolRun run = RunTool("check " + kDataOption + Quoted(Path("missing.mt")) + " " + Quoted(good));
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.output, Path("missing.mt") + ": Can't open template file!\n");
+    run = RunTool("check " + kDataOption + Quoted(folder.string()));
+    EXPECT_EQ(run.status, 2);
+
+    run = Normalize(Path("missing.mt"), Path("out.mt"));
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.output, "Can't open template file!\n");
+    EXPECT_FALSE(fs::exists(Path("out.mt")));
+
+    run = Normalize(good, Path("no/such/folder/out.mt"));
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.output, "Can't save template file!\n");
+    run = Normalize(good, folder.string());
+    EXPECT_EQ(run.status, 2);
+}
+
+TEST_F(ToolTemplateCommandsTest, MissingOperandsAreUsageErrors) {
+    EXPECT_EQ(RunTool("check").status, 2);
+    EXPECT_EQ(RunTool("normalize " + Quoted(Path("a.mt"))).status, 2);
+    EXPECT_EQ(RunTool("normalize a b c").status, 2);
+    const ToolRun help = RunTool("--help");
+    EXPECT_NE(help.output.find("normalize [--data DIR] IN OUT"), std::string::npos);
+    EXPECT_NE(help.output.find("Can't save template file!"), std::string::npos);
+}
