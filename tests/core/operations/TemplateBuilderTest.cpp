@@ -111,16 +111,6 @@ TEST_F(TemplateBuilderTest, APhaseWithoutBlocksIsRemovedButUsesUpItsId) {
     EXPECT_EQ(store.nextId, 3);
 }
 
-TEST_F(TemplateBuilderTest, ABlockSetBelongsToTheFirstPhaseThatNamesIt) {
-    TemplateDesc desc;
-    AddPhase(desc, "A");
-    desc.phases.push_back(PhaseDesc{"B", GenerationRandom, {}, "blocks_A", "", ""});
-    builder.Build(desc);
-    EXPECT_EQ(prompts.MessageTexts(), Strings{kNoBlocks});
-    ASSERT_EQ(store.objects.size(), 1u);
-    EXPECT_EQ(Get<Phase>(1).name, "A");
-}
-
 TEST_F(TemplateBuilderTest, UnknownBlocksAreReadFromTheirFilesAndAnUnreadableOneIsDropped) {
     disk.AddFile("/data/extra/New.Group", "MCU_H_Input\n{\n  Name = arrive;\n}\n");
     TemplateDesc desc;
