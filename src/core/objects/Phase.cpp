@@ -1,5 +1,7 @@
 #include "objects/Phase.h"
 
+#include "document/TemplateDesc.h"
+
 #include <algorithm>
 
 namespace lw {
@@ -18,6 +20,15 @@ void RemoveFirst(std::vector<std::int32_t>& ids, std::int32_t id) {
 }
 
 } // namespace
+
+bool HasPrimaryLink(std::int32_t generationType) {
+    return generationType != GenerationServerSetPos && generationType != GenerationServerWaypoint &&
+           generationType != GenerationServerTargetPos;
+}
+
+bool HasSecondaryLink(std::int32_t generationType) {
+    return generationType == GenerationFractal || generationType == GenerationLine;
+}
 
 ScreenRect Phase::GetScreenRect(int viewX, int viewY, float scale) const {
     // The size comes from the scale alone and is added to the truncated

@@ -74,6 +74,12 @@ public:
     std::int32_t colorIndex = 0;
 };
 
+// Whether a phase of this generation type is placed against a primary
+// geometry link (all but the three server types), and also against a
+// secondary one (fractal and line).
+bool HasPrimaryLink(std::int32_t generationType);
+bool HasSecondaryLink(std::int32_t generationType);
+
 // A value copy of a phase for the undo history, able to make the phase anew
 // under its old id.
 struct PhaseSnapshot {

@@ -32,16 +32,6 @@ bool HasGate(const std::vector<GateSlot>& gates, const std::string& name) {
                        [&](const GateSlot& gate) { return gate.name == name; });
 }
 
-// The server-placed phases keep every geometry word as a parameter.
-bool HasGeometryLinks(std::int32_t generationType) {
-    return generationType != GenerationServerSetPos && generationType != GenerationServerWaypoint &&
-           generationType != GenerationServerTargetPos;
-}
-
-bool HasSecondaryLink(std::int32_t generationType) {
-    return generationType == GenerationFractal || generationType == GenerationLine;
-}
-
 // The colours a gui helper may give a phase; anything else is the default.
 std::int32_t UsableColour(std::int32_t colorIndex) {
     return colorIndex >= 1 && colorIndex <= 6 ? colorIndex : 0;
@@ -165,7 +155,7 @@ void TemplateBuilder::TakeGatesFromFirstBlock(Phase& phase) {
 // the numeric parameters. A name that no phase bears (such as "EMPTY") is
 // dropped all the same and leaves the link 0.
 void TemplateBuilder::ResolveGeometryLinks(Phase& phase, const ObjectList* list) {
-    if (!HasGeometryLinks(phase.generationType) || phase.geoParams.empty())
+    if (!HasPrimaryLink(phase.generationType) || phase.geoParams.empty())
         return;
     if (const Phase* linked = TakeGeometryLink(phase, list))
         phase.primaryLinkId = linked->id;

@@ -8,17 +8,6 @@ namespace lw {
 
 namespace {
 
-// Phases placed by the server are written without a geometry link; line and
-// fractal phases name a second linked phase after the first.
-bool HasPrimaryLink(std::int32_t generationType) {
-    return generationType != GenerationServerSetPos && generationType != GenerationServerWaypoint &&
-           generationType != GenerationServerTargetPos;
-}
-
-bool HasSecondaryLink(std::int32_t generationType) {
-    return generationType == GenerationLine || generationType == GenerationFractal;
-}
-
 std::string BlockSetName(const Phase& phase) {
     return kBlockSetPrefix + phase.name;
 }
