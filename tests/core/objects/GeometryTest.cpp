@@ -120,51 +120,6 @@ TEST(PhaseTest, ChecksStackBelowTheBox) {
     EXPECT_EQ(phase->checkIds, std::vector<std::int32_t>{8});
 }
 
-TEST(PhaseTest, NewPhaseDefaultsAndSnapshotRebuild) {
-    auto phase = std::make_unique<Phase>(4);
-    EXPECT_EQ(phase->allocationType, "clone_location");
-    EXPECT_EQ(phase->generationType, 4);
-    phase->name = "alpha";
-    phase->posX = 3;
-    phase->posY = -9;
-    phase->outputs = {GateSlot{"done", false}};
-    phase->AddActionId(11);
-    phase->colorIndex = 5;
-    const std::unique_ptr<Phase> rebuilt = PhaseSnapshot(*phase).Rebuild();
-    EXPECT_EQ(rebuilt->id, 4);
-    EXPECT_EQ(rebuilt->name, "alpha");
-    EXPECT_EQ(rebuilt->posY, -9);
-    EXPECT_EQ(rebuilt->outputs, phase->outputs);
-    EXPECT_EQ(rebuilt->actionIds, phase->actionIds);
-    EXPECT_EQ(rebuilt->GetColorIndex(), 5);
-}
-
-TEST(SmallObjectsTest, SnapshotsRebuildEveryField) {
-    Switch original(9);
-    original.name = "sw";
-    original.number = 2;
-    original.preliminaryCheck = 3;
-    original.planeType = 1;
-    original.caseIds = {4, 4};
-    original.posX = 12;
-    const auto copy = SwitchSnapshot(original).Rebuild();
-    EXPECT_EQ(copy->id, 9);
-    EXPECT_EQ(copy->caseIds, original.caseIds);
-    EXPECT_EQ(copy->planeType, 1);
-    EXPECT_EQ(copy->posX, 12);
-
-    Action action(3);
-    action.rules = {ActionRule{"set_skin", {"a"}, "x>1"}};
-    action.objectName = "Plane";
-    EXPECT_EQ(ActionSnapshot(action).Rebuild()->rules, action.rules);
-
-    Unlinker unlinker(2);
-    unlinker.outputGates = {"done"};
-    const auto back = UnlinkerSnapshot(unlinker).Rebuild();
-    EXPECT_TRUE(back->HasOutputGate("done"));
-    EXPECT_FALSE(back->HasInputGate("done"));
-}
-
 TEST(SmallObjectsTest, StripSetPrefixDropsSevenCharactersOfLongerTexts) {
     EXPECT_EQ(StripSetPrefix("unlink_a"), "a");
     EXPECT_EQ(StripSetPrefix("unlink_"), "unlink_");

@@ -50,34 +50,6 @@ protected:
     ObjectStore store;
 };
 
-TEST_F(TemplateExporterTest, EachPhaseHasItsOwnBlockSetAndAHelperWithItsColour) {
-    const std::map<std::string, std::string> blocks = {{"main", "a\\b.group"}, {"x", "c.group"}};
-    for (const char* name : {"a", "b"}) {
-        Phase* phase = AddPhase(name);
-        phase->blocks = blocks;
-        phase->inputs = {{"in", true}};
-        phase->blockProperties["main"] = {"p"};
-    }
-    Phase* phase = store.FindPhase(2);
-    phase->primaryLinkId = 1;
-    phase->geoParams = {"10", "20"};
-    phase->allocationType = "unique";
-    phase->blocksFolder = "folder";
-    phase->posX = -5;
-    phase->posY = 7;
-    phase->colorIndex = 3;
-
-    const TemplateDesc desc = Export();
-    EXPECT_EQ(desc.blockSets,
-              (std::vector<BlockSetDesc>{{"blocks_a", blocks}, {"blocks_b", blocks}}));
-    ASSERT_EQ(desc.phases.size(), 2u);
-    EXPECT_EQ(
-        desc.phases[1],
-        (PhaseDesc{"b", GenerationRandom, {"a", "10", "20"}, "blocks_b", "unique", "folder"}));
-    ASSERT_EQ(desc.guiHelpers.size(), 2u);
-    EXPECT_EQ(desc.guiHelpers[1], (GuiHelperDesc{"b", -5, 7, "", "", 3}));
-}
-
 TEST_F(TemplateExporterTest, GeometryLinksLeadTheParametersByGenerationType) {
     const std::int32_t first = AddPhase("first")->id;
     const std::int32_t second = AddPhase("second")->id;
@@ -157,26 +129,6 @@ TEST_F(TemplateExporterTest, ChecksOfMeasuredTypesNameThePrimaryLinkPhase) {
     EXPECT_EQ(desc.guiHelpers[1].detail, "range");
     // The object keeps what the file does not.
     EXPECT_EQ(inRadius->params, (Words{"other", "500"}));
-}
-
-TEST_F(TemplateExporterTest, ActionsWriteOneRecordPerRule) {
-    const std::int32_t phase = AddPhase("p")->id;
-    Action* bare = store.NewAction();
-    bare->phaseId = phase;
-    bare->name = "bare";
-    bare->objectName = "obj";
-    Action* ruled = store.NewAction();
-    ruled->phaseId = phase;
-    ruled->name = "ruled";
-    ruled->rules = {{"r1", {"a", "b"}, "cond"}, {"r2", {}, ""}};
-    ruled->posY = 3;
-
-    const TemplateDesc desc = Export();
-    EXPECT_EQ(desc.actions, (std::vector<ActionDesc>{{"p", "obj", "bare", "<empty>", {}, ""},
-                                                     {"p", "", "ruled", "r1", {"a", "b"}, "cond"},
-                                                     {"p", "", "ruled", "r2", {}, ""}}));
-    EXPECT_EQ(desc.guiHelpers[1], (GuiHelperDesc{"bare", 0, 0, "p", "obj", 0}));
-    EXPECT_EQ(desc.guiHelpers[2], (GuiHelperDesc{"ruled", 0, 3, "p", "", 0}));
 }
 
 TEST_F(TemplateExporterTest, UnlinkersNameTheBlockSetAndVanishWithoutGates) {
