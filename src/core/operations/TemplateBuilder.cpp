@@ -1,6 +1,9 @@
 #include "operations/TemplateBuilder.h"
 
 #include "document/Keywords.h"
+#include "operations/BlockSetPool.h"
+#include "operations/GuiHelperPool.h"
+#include "operations/TemplateExporter.h"
 
 #include <algorithm>
 
@@ -8,18 +11,13 @@ namespace lw {
 
 namespace {
 
-using GuiHelpers = std::vector<GuiHelperDesc>;
-
-// Moves the object to the first gui helper record that fits and erases the
-// record, so that the next object of the same look takes the next record.
-// Without a fitting record the object keeps the position it was made with.
-template <typename Fits> void TakePosition(GuiHelpers& helpers, EditorObject& object, Fits fits) {
-    const auto found = std::find_if(helpers.begin(), helpers.end(), fits);
-    if (found == helpers.end())
+// Gives the object the position of its gui helper record; without one it
+// keeps the position it was made with.
+void MoveTo(EditorObject& object, const GuiHelperDesc* record) {
+    if (record == nullptr)
         return;
-    object.posX = found->x;
-    object.posY = found->y;
-    helpers.erase(found);
+    object.posX = record->x;
+    object.posY = record->y;
 }
 
 void AppendTo(ObjectList* list, EditorObject* object) {
@@ -71,6 +69,8 @@ void TemplateBuilder::ShowStop(const std::string& text) {
 void TemplateBuilder::BuildPhases(TemplateDesc& desc, ObjectList* list) {
     // A phase without a gui helper takes the colour of the phase before it.
     std::int32_t colorIndex = 0;
+    GuiHelperPool helpers(desc.guiHelpers);
+    BlockSetPool blockSets(desc.blockSets);
     for (const PhaseDesc& phaseDesc : desc.phases) {
         Phase* phase = store_.NewPhase();
         phase->name = phaseDesc.name;
@@ -80,8 +80,8 @@ void TemplateBuilder::BuildPhases(TemplateDesc& desc, ObjectList* list) {
         phase->geoParams = phaseDesc.geoParams;
         phase->allocationType = phaseDesc.allocationType;
         phase->blocksFolder = phaseDesc.blocksFolder;
-        PlacePhase(desc, *phase, colorIndex);
-        TakeBlocks(desc, *phase, phaseDesc.blockSetName);
+        PlacePhase(helpers, *phase, colorIndex);
+        TakeBlocks(blockSets, *phase, phaseDesc.blockSetName);
         if (phase->blocks.empty()) {
             // The id stays used, so the phases after it keep their numbers.
             ShowStop("Phase without blocks: ignoring");
@@ -91,41 +91,33 @@ void TemplateBuilder::BuildPhases(TemplateDesc& desc, ObjectList* list) {
         AppendTo(list, phase);
         TakeGatesFromFirstBlock(*phase);
     }
-    for (EditorObject* object : SearchScope(list)) {
+    const ObjectList scope = SearchScope(list);
+    const NameIndex<Phase> phases(scope);
+    for (EditorObject* object : scope) {
         if (Phase* phase = As<Phase>(object))
-            ResolveGeometryLinks(*phase, list);
+            ResolveGeometryLinks(*phase, phases);
     }
 }
 
-void TemplateBuilder::PlacePhase(TemplateDesc& desc, Phase& phase, std::int32_t& colorIndex) {
-    GuiHelpers& helpers = desc.guiHelpers;
-    const auto found =
-        std::find_if(helpers.begin(), helpers.end(),
-                     [&](const GuiHelperDesc& helper) { return helper.objectName == phase.name; });
-    if (found != helpers.end()) {
-        phase.posX = found->x;
-        phase.posY = found->y;
-        colorIndex = UsableColour(found->colorIndex);
-        helpers.erase(found);
+void TemplateBuilder::PlacePhase(GuiHelperPool& helpers, Phase& phase, std::int32_t& colorIndex) {
+    if (const GuiHelperDesc* record = helpers.TakeByName(phase.name)) {
+        MoveTo(phase, record);
+        colorIndex = UsableColour(record->colorIndex);
     }
     phase.colorIndex = colorIndex;
 }
 
-// A block set belongs to the first phase that names it: it is erased once
-// used, and a later phase of the same set finds nothing.
-void TemplateBuilder::TakeBlocks(TemplateDesc& desc, Phase& phase,
+// A block set belongs to the first phase that names it: a later phase of the
+// same set finds nothing.
+void TemplateBuilder::TakeBlocks(BlockSetPool& blockSets, Phase& phase,
                                  const std::string& blockSetName) {
-    std::vector<BlockSetDesc>& sets = desc.blockSets;
-    const auto set = std::find_if(sets.begin(), sets.end(), [&](const BlockSetDesc& candidate) {
-        return candidate.name == blockSetName;
-    });
-    if (set == sets.end())
+    const BlockSetDesc* set = blockSets.Take(blockSetName);
+    if (set == nullptr)
         return;
     for (const auto& [key, reference] : set->blocks) {
         if (EnsureBlockInPool(reference))
             phase.blocks[key] = reference;
     }
-    sets.erase(set);
 }
 
 // A block the pool does not know is read from its file on demand and kept;
@@ -154,19 +146,19 @@ void TemplateBuilder::TakeGatesFromFirstBlock(Phase& phase) {
 // Turns the phase names at the front of geoParams into the link ids, leaving
 // the numeric parameters. A name that no phase bears (such as "EMPTY") is
 // dropped all the same and leaves the link 0.
-void TemplateBuilder::ResolveGeometryLinks(Phase& phase, const ObjectList* list) {
+void TemplateBuilder::ResolveGeometryLinks(Phase& phase, const NameIndex<Phase>& phases) {
     if (!HasPrimaryLink(phase.generationType) || phase.geoParams.empty())
         return;
-    if (const Phase* linked = TakeGeometryLink(phase, list))
+    if (const Phase* linked = TakeGeometryLink(phase, phases))
         phase.primaryLinkId = linked->id;
     if (!HasSecondaryLink(phase.generationType) || phase.geoParams.empty())
         return;
-    if (const Phase* linked = TakeGeometryLink(phase, list))
+    if (const Phase* linked = TakeGeometryLink(phase, phases))
         phase.secondaryLinkId = linked->id;
 }
 
-const Phase* TemplateBuilder::TakeGeometryLink(Phase& phase, const ObjectList* list) {
-    const Phase* linked = store_.FindPhaseByName(phase.geoParams.front(), list);
+const Phase* TemplateBuilder::TakeGeometryLink(Phase& phase, const NameIndex<Phase>& phases) {
+    const Phase* linked = phases.First(phase.geoParams.front());
     phase.geoParams.erase(phase.geoParams.begin());
     return linked;
 }
@@ -175,29 +167,21 @@ const Phase* TemplateBuilder::TakeGeometryLink(Phase& phase, const ObjectList* l
 
 void TemplateBuilder::BuildLinks(TemplateDesc& desc, ObjectList* list,
                                  std::vector<Link>* madeLinks) {
+    const NameIndex<Phase> phases(SearchScope(list));
     for (const LinkDesc& linkDesc : desc.links) {
-        if (!AddLink(linkDesc, list, madeLinks))
+        if (!AddLink(linkDesc, phases, madeLinks))
             ShowStop("Error adding link!");
     }
 }
 
-bool TemplateBuilder::AddLink(const LinkDesc& linkDesc, const ObjectList* list,
+bool TemplateBuilder::AddLink(const LinkDesc& linkDesc, const NameIndex<Phase>& phases,
                               std::vector<Link>* madeLinks) {
-    Phase* from = nullptr;
-    Phase* to = nullptr;
-    for (EditorObject* object : SearchScope(list)) {
-        Phase* phase = As<Phase>(object);
-        if (phase == nullptr)
-            continue;
-        // The phase taken as the source is not also tried as the
-        // destination, so a link from a phase to itself is never found.
-        if (from == nullptr && phase->name == linkDesc.fromPhase)
-            from = phase;
-        else if (to == nullptr && phase->name == linkDesc.toPhase)
-            to = phase;
-        if (from != nullptr && to != nullptr)
-            break;
-    }
+    // The first phase of the source's name is the source, and it is not also
+    // tried as the destination: a link between namesakes goes to the second
+    // of them, and a link from a phase to itself is never found.
+    Phase* from = phases.First(linkDesc.fromPhase);
+    Phase* to = linkDesc.toPhase == linkDesc.fromPhase ? phases.Second(linkDesc.toPhase)
+                                                       : phases.First(linkDesc.toPhase);
     if (from == nullptr) {
         ShowStop("Can't find From phase for link");
         return false;
@@ -222,11 +206,13 @@ bool TemplateBuilder::AddLink(const LinkDesc& linkDesc, const ObjectList* list,
 // ---------------------------------------------------------------- cases and switches
 
 void TemplateBuilder::BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list) {
+    const NameIndex<Phase> phases(SearchScope(list));
+    GuiHelperPool helpers(desc.guiHelpers);
     for (const CaseDesc& caseDesc : desc.cases) {
         Case* object = store_.NewCase();
         object->name = caseDesc.name;
         for (const std::string& phaseName : caseDesc.phaseNames) {
-            Phase* phase = store_.FindPhaseByName(phaseName, list);
+            Phase* phase = phases.First(phaseName);
             if (phase == nullptr)
                 continue;
             if (std::find(object->phaseIds.begin(), object->phaseIds.end(), phase->id) ==
@@ -235,9 +221,10 @@ void TemplateBuilder::BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list
             // A phase named by several cases belongs to the last of them.
             phase->caseId = object->id;
         }
-        PlaceByName(desc, *object, object->name);
+        MoveTo(*object, helpers.TakeByName(object->name));
         AppendTo(list, object);
     }
+    const NameIndex<Case> cases(SearchScope(list));
     for (const SwitchDesc& switchDesc : desc.switches) {
         Switch* object = store_.NewSwitch();
         object->name = switchDesc.name;
@@ -245,14 +232,14 @@ void TemplateBuilder::BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list
         object->preliminaryCheck = switchDesc.preliminaryCheck;
         object->planeType = switchDesc.planeType;
         for (const std::string& caseName : switchDesc.caseNames) {
-            Case* member = store_.FindCaseByName(caseName, list);
+            Case* member = cases.First(caseName);
             if (member == nullptr)
                 continue;
             // Unlike a case's phases, a switch keeps a case named twice.
             object->caseIds.push_back(member->id);
             member->switchId = object->id;
         }
-        PlaceByName(desc, *object, object->name);
+        MoveTo(*object, helpers.TakeByName(object->name));
         AppendTo(list, object);
     }
 }
@@ -262,16 +249,19 @@ void TemplateBuilder::BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list
 // A check or action whose phase is unknown stays in the store as it was made,
 // without phase or position, and is not collected.
 void TemplateBuilder::BuildChecks(TemplateDesc& desc, ObjectList* list) {
+    const NameIndex<Phase> phases(SearchScope(list));
+    GuiHelperPool helpers(desc.guiHelpers);
     for (const CheckDesc& checkDesc : desc.checks) {
         Check* check = store_.NewCheck();
-        Phase* phase = store_.FindPhaseByName(checkDesc.phaseName, list);
+        Phase* phase = phases.First(checkDesc.phaseName);
         if (phase == nullptr)
             continue;
         check->phaseId = phase->id;
         check->type = checkDesc.type;
         check->params = checkDesc.params;
         phase->AddCheckId(check->id);
-        PlaceCheck(desc, *check, checkDesc);
+        MoveTo(*check, helpers.TakeByOwner(kCheckHelperName, checkDesc.phaseName,
+                                           checkTypeToKeyword(checkDesc.type)));
         AppendTo(list, check);
     }
 }
@@ -279,15 +269,26 @@ void TemplateBuilder::BuildChecks(TemplateDesc& desc, ObjectList* list) {
 // Each record is one rule; the records of one action are merged into the
 // action that the first of them made.
 void TemplateBuilder::BuildActions(TemplateDesc& desc, ObjectList* list) {
+    const ObjectList scope = SearchScope(list);
+    const NameIndex<Phase> phases(scope);
+    // Actions by their phase's name, object name and name, the first in
+    // scope order; the actions made below join the end of the scope.
+    std::map<ActionKey, Action*> actions;
+    GuiHelperPool helpers(desc.guiHelpers);
+    for (EditorObject* object : scope) {
+        if (Action* action = As<Action>(object))
+            IndexAction(actions, *action);
+    }
     for (const ActionDesc& actionDesc : desc.actions) {
         const ActionRule rule{actionDesc.ruleName, actionDesc.ruleParams, actionDesc.ruleCondition};
-        if (Action* existing = store_.FindActionOf(actionDesc.phaseName, actionDesc.objectName,
-                                                   actionDesc.actionName, list)) {
-            existing->rules.push_back(rule);
+        const auto existing =
+            actions.find({actionDesc.phaseName, actionDesc.objectName, actionDesc.actionName});
+        if (existing != actions.end()) {
+            existing->second->rules.push_back(rule);
             continue;
         }
         Action* action = store_.NewAction();
-        Phase* phase = store_.FindPhaseByName(actionDesc.phaseName, list);
+        Phase* phase = phases.First(actionDesc.phaseName);
         if (phase == nullptr)
             continue;
         action->phaseId = phase->id;
@@ -297,9 +298,17 @@ void TemplateBuilder::BuildActions(TemplateDesc& desc, ObjectList* list) {
         if (actionDesc.ruleName != "empty")
             action->rules.push_back(rule);
         phase->AddActionId(action->id);
-        PlaceAction(desc, *action, actionDesc);
+        MoveTo(*action, helpers.TakeByOwner(actionDesc.actionName, actionDesc.phaseName,
+                                            actionDesc.objectName));
         AppendTo(list, action);
+        IndexAction(actions, *action);
     }
+}
+
+void TemplateBuilder::IndexAction(std::map<ActionKey, Action*>& actions, Action& action) const {
+    // An action whose phase is gone is found by no name.
+    if (const Phase* phase = store_.FindPhase(action.phaseId))
+        actions.emplace(ActionKey{phase->name, action.objectName, action.name}, &action);
 }
 
 // ---------------------------------------------------------------- unlinkers
@@ -307,12 +316,23 @@ void TemplateBuilder::BuildActions(TemplateDesc& desc, ObjectList* list) {
 // The input and output records of a phase make one unlinker; the second
 // record only sets its gates.
 void TemplateBuilder::BuildUnlinkers(TemplateDesc& desc, ObjectList* list) {
+    const ObjectList scope = SearchScope(list);
+    const NameIndex<Phase> phases(scope);
+    // The first unlinker of each phase in scope order.
+    std::map<std::int32_t, Unlinker*> unlinkers;
+    // An unlinker's record is named after its phase behind any seven
+    // characters, and it is not used up.
+    GuiHelperPool helpers(desc.guiHelpers);
+    for (EditorObject* object : scope) {
+        if (Unlinker* unlinker = As<Unlinker>(object))
+            unlinkers.emplace(unlinker->phaseId, unlinker);
+    }
     for (const UnlinkDesc& unlinkDesc : desc.unlinks) {
         const std::string phaseName = StripSetPrefix(unlinkDesc.blockSetName);
-        const Phase* phase = store_.FindPhaseByName(phaseName, list);
+        const Phase* phase = phases.First(phaseName);
         if (phase == nullptr)
             continue;
-        Unlinker* unlinker = FindUnlinkerOf(phase->id, list);
+        Unlinker*& unlinker = unlinkers[phase->id];
         const bool isNew = unlinker == nullptr;
         if (isNew) {
             unlinker = store_.NewUnlinker();
@@ -320,58 +340,10 @@ void TemplateBuilder::BuildUnlinkers(TemplateDesc& desc, ObjectList* list) {
         }
         (unlinkDesc.isInput ? unlinker->inputGates : unlinker->outputGates) = unlinkDesc.gates;
         if (isNew) {
-            PlaceUnlinker(desc, *unlinker, phaseName);
+            MoveTo(*unlinker, helpers.FindByStrippedName(phaseName));
             AppendTo(list, unlinker);
         }
     }
-}
-
-Unlinker* TemplateBuilder::FindUnlinkerOf(std::int32_t phaseId, const ObjectList* list) const {
-    for (EditorObject* object : SearchScope(list)) {
-        Unlinker* unlinker = As<Unlinker>(object);
-        if (unlinker != nullptr && unlinker->phaseId == phaseId)
-            return unlinker;
-    }
-    return nullptr;
-}
-
-// ---------------------------------------------------------------- positions
-
-void TemplateBuilder::PlaceByName(TemplateDesc& desc, EditorObject& object,
-                                  const std::string& name) {
-    TakePosition(desc.guiHelpers, object,
-                 [&](const GuiHelperDesc& helper) { return helper.objectName == name; });
-}
-
-void TemplateBuilder::PlaceCheck(TemplateDesc& desc, Check& check, const CheckDesc& checkDesc) {
-    const std::string typeKeyword = checkTypeToKeyword(checkDesc.type);
-    TakePosition(desc.guiHelpers, check, [&](const GuiHelperDesc& helper) {
-        return helper.objectName == "check" && helper.ownerName == checkDesc.phaseName &&
-               helper.detail == typeKeyword;
-    });
-}
-
-void TemplateBuilder::PlaceAction(TemplateDesc& desc, Action& action,
-                                  const ActionDesc& actionDesc) {
-    TakePosition(desc.guiHelpers, action, [&](const GuiHelperDesc& helper) {
-        return helper.objectName == actionDesc.actionName &&
-               helper.ownerName == actionDesc.phaseName && helper.detail == actionDesc.objectName;
-    });
-}
-
-// The unlinker's record is named after the phase's block set, whatever its
-// prefix; it is not erased.
-void TemplateBuilder::PlaceUnlinker(const TemplateDesc& desc, Unlinker& unlinker,
-                                    const std::string& phaseName) {
-    const GuiHelpers& helpers = desc.guiHelpers;
-    const auto found =
-        std::find_if(helpers.begin(), helpers.end(), [&](const GuiHelperDesc& helper) {
-            return StripSetPrefix(helper.objectName) == phaseName;
-        });
-    if (found == helpers.end())
-        return;
-    unlinker.posX = found->x;
-    unlinker.posY = found->y;
 }
 
 } // namespace lw

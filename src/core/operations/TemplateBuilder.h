@@ -3,14 +3,20 @@
 #include "catalog/BlocksContainer.h"
 #include "document/TemplateDesc.h"
 #include "objects/Link.h"
+#include "operations/NameIndex.h"
 #include "operations/ObjectStore.h"
 #include "platform/UserPrompts.h"
 
 #include <cstdint>
+#include <map>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace lw {
+
+class BlockSetPool;
+class GuiHelperPool;
 
 // Turns a TemplateDesc, in which everything is named, into objects of the
 // store, which refer to each other by id. A damaged template is built as far
@@ -48,25 +54,21 @@ private:
     void ShowStop(const std::string& text);
 
     // Phases.
-    void PlacePhase(TemplateDesc& desc, Phase& phase, std::int32_t& colorIndex);
-    void TakeBlocks(TemplateDesc& desc, Phase& phase, const std::string& blockSetName);
+    static void PlacePhase(GuiHelperPool& helpers, Phase& phase, std::int32_t& colorIndex);
+    void TakeBlocks(BlockSetPool& blockSets, Phase& phase, const std::string& blockSetName);
     bool EnsureBlockInPool(const std::string& reference);
     void TakeGatesFromFirstBlock(Phase& phase);
-    void ResolveGeometryLinks(Phase& phase, const ObjectList* list);
+    static void ResolveGeometryLinks(Phase& phase, const NameIndex<Phase>& phases);
     // Erases the first geometry word and returns the phase it names, if any.
-    const Phase* TakeGeometryLink(Phase& phase, const ObjectList* list);
+    static const Phase* TakeGeometryLink(Phase& phase, const NameIndex<Phase>& phases);
 
     // Links.
-    bool AddLink(const LinkDesc& linkDesc, const ObjectList* list, std::vector<Link>* madeLinks);
+    bool AddLink(const LinkDesc& linkDesc, const NameIndex<Phase>& phases,
+                 std::vector<Link>* madeLinks);
 
-    // Positions of the other objects.
-    static void PlaceByName(TemplateDesc& desc, EditorObject& object, const std::string& name);
-    static void PlaceCheck(TemplateDesc& desc, Check& check, const CheckDesc& checkDesc);
-    static void PlaceAction(TemplateDesc& desc, Action& action, const ActionDesc& actionDesc);
-    static void PlaceUnlinker(const TemplateDesc& desc, Unlinker& unlinker,
-                              const std::string& phaseName);
-
-    Unlinker* FindUnlinkerOf(std::int32_t phaseId, const ObjectList* list) const;
+    // Actions are found by their phase's name, their object name and name.
+    using ActionKey = std::tuple<std::string, std::string, std::string>;
+    void IndexAction(std::map<ActionKey, Action*>& actions, Action& action) const;
 
     ObjectStore& store_;
     BlocksContainer& blockPool_;

@@ -1,0 +1,89 @@
+#include "operations/GuiHelperPool.h"
+
+#include "objects/Unlinker.h"
+
+namespace lw {
+
+namespace {
+
+template <typename Index, typename KeyOf>
+void IndexRecords(const std::vector<GuiHelperDesc>& helpers, Index& index, KeyOf keyOf) {
+    for (std::size_t i = 0; i < helpers.size(); ++i)
+        index[keyOf(helpers[i])].records.push_back(i);
+}
+
+template <typename Index, typename Key> auto* QueueOf(Index& index, const Key& key) {
+    const auto found = index.find(key);
+    return found == index.end() ? nullptr : &found->second;
+}
+
+} // namespace
+
+GuiHelperPool::~GuiHelperPool() {
+    if (taken_.empty())
+        return;
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < helpers_.size(); ++i) {
+        if (taken_[i])
+            continue;
+        if (kept != i)
+            helpers_[kept] = std::move(helpers_[i]);
+        ++kept;
+    }
+    helpers_.resize(kept);
+}
+
+void GuiHelperPool::EnsureTaken() {
+    if (taken_.size() != helpers_.size())
+        taken_.assign(helpers_.size(), false);
+}
+
+const GuiHelperDesc* GuiHelperPool::Front(Queue& queue) {
+    while (queue.next < queue.records.size() && taken_[queue.records[queue.next]])
+        ++queue.next;
+    return queue.next < queue.records.size() ? &helpers_[queue.records[queue.next]] : nullptr;
+}
+
+const GuiHelperDesc* GuiHelperPool::Take(Queue* queue) {
+    if (queue == nullptr)
+        return nullptr;
+    const GuiHelperDesc* front = Front(*queue);
+    if (front != nullptr)
+        taken_[queue->records[queue->next++]] = true;
+    return front;
+}
+
+const GuiHelperDesc* GuiHelperPool::TakeByName(const std::string& objectName) {
+    EnsureTaken();
+    if (!indexedByName_) {
+        IndexRecords(helpers_, byName_, [](const GuiHelperDesc& h) { return h.objectName; });
+        indexedByName_ = true;
+    }
+    return Take(QueueOf(byName_, objectName));
+}
+
+const GuiHelperDesc* GuiHelperPool::TakeByOwner(const std::string& objectName,
+                                                const std::string& ownerName,
+                                                const std::string& detail) {
+    EnsureTaken();
+    if (!indexedByOwner_) {
+        IndexRecords(helpers_, byOwner_, [](const GuiHelperDesc& h) {
+            return OwnerKey{h.objectName, h.ownerName, h.detail};
+        });
+        indexedByOwner_ = true;
+    }
+    return Take(QueueOf(byOwner_, OwnerKey{objectName, ownerName, detail}));
+}
+
+const GuiHelperDesc* GuiHelperPool::FindByStrippedName(const std::string& strippedName) {
+    EnsureTaken();
+    if (!indexedByStrippedName_) {
+        IndexRecords(helpers_, byStrippedName_,
+                     [](const GuiHelperDesc& h) { return StripSetPrefix(h.objectName); });
+        indexedByStrippedName_ = true;
+    }
+    Queue* queue = QueueOf(byStrippedName_, strippedName);
+    return queue == nullptr ? nullptr : Front(*queue);
+}
+
+} // namespace lw
