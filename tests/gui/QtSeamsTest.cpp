@@ -1,4 +1,5 @@
 #include "DisplayCheck.h"
+#include "QtFileDialogs.h"
 #include "QtFileSystem.h"
 #include "QtOptionsStore.h"
 #include "platform/FileAccess.h"
@@ -145,6 +146,13 @@ private slots:
         QVERIFY(!replaced);
         QCOMPARE(Bytes(path), QByteArray("old"));
         QCOMPARE(Listing(folder.path()), QStringList({"a.mt"}));
+    }
+
+    void templateFilterBecomesQtsForm() {
+        QCOMPARE(QtFilterFromRequest("Mission Template Files (*.mt)|*.mt||"),
+                 QString("Mission Template Files (*.mt)"));
+        QCOMPARE(QtFilterFromRequest("Texts|*.txt;*.log|All|*.*||"),
+                 QString("Texts (*.txt *.log)\nAll (*.*)"));
     }
 
     void missingDisplayIsOneClearLine() {
