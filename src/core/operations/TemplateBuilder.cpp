@@ -2,8 +2,8 @@
 
 #include "document/Keywords.h"
 #include "operations/BlockSetPool.h"
+#include "operations/GeneratedNames.h"
 #include "operations/GuiHelperPool.h"
-#include "operations/TemplateExporter.h"
 
 #include <algorithm>
 

@@ -1,23 +1,13 @@
 #pragma once
 
 #include "document/TemplateDesc.h"
+#include "operations/GeneratedNames.h"
 #include "operations/ObjectStore.h"
 
 #include <cstdint>
 #include <string>
 
 namespace lw {
-
-// Words the export makes up where the objects hold no name of their own.
-inline constexpr const char* kBlockSetPrefix = "blocks_";
-inline constexpr const char* kUnlinkPrefix = "unlink_";
-// Stands in for a geometry link that names no phase.
-inline constexpr const char* kNoLinkedPhase = "<EMPTY>";
-// The rule of an action that has none, so that the action still has a line.
-inline constexpr const char* kNoRule = "<empty>";
-// The gui helper name of every check: checks have no name, their phase and
-// type tell them apart.
-inline constexpr const char* kCheckHelperName = "check";
 
 // Appends the records of single objects to a description, turning ids into
 // names. Each object is exported on its own, so that a caller may choose
