@@ -1,9 +1,9 @@
 #pragma once
 
 #include "objects/EditorObject.h"
+#include "objects/Snapshot.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -38,18 +38,6 @@ public:
     std::vector<ActionRule> rules;
 };
 
-struct ActionSnapshot {
-    ActionSnapshot() = default;
-    explicit ActionSnapshot(const Action& object);
-    std::unique_ptr<Action> Rebuild() const;
-
-    std::int32_t id = 0;
-    std::int32_t phaseId = 0;
-    std::string objectName;
-    std::string name;
-    std::vector<ActionRule> rules;
-    std::int32_t posX = 0;
-    std::int32_t posY = 0;
-};
+using ActionSnapshot = Snapshot<Action>;
 
 } // namespace lw

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "objects/EditorObject.h"
+#include "objects/Snapshot.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -14,7 +14,9 @@ class Case : public EditorObject {
 public:
     explicit Case(std::int32_t id) : EditorObject(id) {}
 
-    ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override;
+    ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override {
+        return CentredScreenRect(viewX, viewY, scale, GetRadius(), GetRadius());
+    }
     int GetRadius() const override { return 40; }
     ObjectKind GetKind() const override { return ObjectKind::Case; }
 
@@ -24,17 +26,6 @@ public:
     std::int32_t switchId = 0;
 };
 
-struct CaseSnapshot {
-    CaseSnapshot() = default;
-    explicit CaseSnapshot(const Case& object);
-    std::unique_ptr<Case> Rebuild() const;
-
-    std::int32_t id = 0;
-    std::string name;
-    std::vector<std::int32_t> phaseIds;
-    std::int32_t switchId = 0;
-    std::int32_t posX = 0;
-    std::int32_t posY = 0;
-};
+using CaseSnapshot = Snapshot<Case>;
 
 } // namespace lw

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "objects/EditorObject.h"
+#include "objects/Snapshot.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -25,18 +25,7 @@ public:
     std::vector<std::string> params;
 };
 
-struct CheckSnapshot {
-    CheckSnapshot() = default;
-    explicit CheckSnapshot(const Check& object);
-    std::unique_ptr<Check> Rebuild() const;
-
-    std::int32_t id = 0;
-    std::int32_t phaseId = 0;
-    std::int32_t type = 5;
-    std::vector<std::string> params;
-    std::int32_t posX = 0;
-    std::int32_t posY = 0;
-};
+using CheckSnapshot = Snapshot<Check>;
 
 // The word that stands for the phase of the primary geometry link, the first
 // parameter of the range, in-radius and in-sector checks.

@@ -23,7 +23,6 @@ enum class ObjectKind : std::int32_t {
 class EditorObject {
 public:
     explicit EditorObject(std::int32_t id) : id(id) {}
-    EditorObject(const EditorObject&) = delete;
     EditorObject& operator=(const EditorObject&) = delete;
     virtual ~EditorObject() = default;
 
@@ -38,6 +37,9 @@ public:
     const std::int32_t id;
 
 protected:
+    // Copies are made of whole objects only, for the undo history.
+    EditorObject(const EditorObject&) = default;
+
     // The rectangle of half-extents hx, hy about the position: each edge is
     // the integer sum, then made a float, then scaled and truncated.
     ScreenRect CentredScreenRect(int viewX, int viewY, float scale, int hx, int hy) const;

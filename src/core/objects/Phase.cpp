@@ -85,34 +85,4 @@ void Phase::RemoveActionId(std::int32_t actionId) {
     RemoveFirst(actionIds, actionId);
 }
 
-PhaseSnapshot::PhaseSnapshot(const Phase& phase)
-    : id(phase.id), name(phase.name), generationType(phase.generationType), blocks(phase.blocks),
-      blocksFolder(phase.blocksFolder), inputs(phase.inputs), outputs(phase.outputs),
-      blockProperties(phase.blockProperties), geoParams(phase.geoParams),
-      allocationType(phase.allocationType), colorIndex(phase.colorIndex), caseId(phase.caseId),
-      primaryLinkId(phase.primaryLinkId), secondaryLinkId(phase.secondaryLinkId),
-      checkIds(phase.checkIds), actionIds(phase.actionIds), posX(phase.posX), posY(phase.posY) {}
-
-std::unique_ptr<Phase> PhaseSnapshot::Rebuild() const {
-    auto phase = std::make_unique<Phase>(id);
-    phase->name = name;
-    phase->generationType = generationType;
-    phase->blocks = blocks;
-    phase->blocksFolder = blocksFolder;
-    phase->inputs = inputs;
-    phase->outputs = outputs;
-    phase->blockProperties = blockProperties;
-    phase->geoParams = geoParams;
-    phase->allocationType = allocationType;
-    phase->colorIndex = colorIndex;
-    phase->caseId = caseId;
-    phase->primaryLinkId = primaryLinkId;
-    phase->secondaryLinkId = secondaryLinkId;
-    phase->checkIds = checkIds;
-    phase->actionIds = actionIds;
-    phase->posX = posX;
-    phase->posY = posY;
-    return phase;
-}
-
 } // namespace lw

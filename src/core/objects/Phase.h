@@ -1,10 +1,10 @@
 #pragma once
 
 #include "objects/EditorObject.h"
+#include "objects/Snapshot.h"
 
 #include <cstdint>
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -80,35 +80,13 @@ public:
 bool HasPrimaryLink(std::int32_t generationType);
 bool HasSecondaryLink(std::int32_t generationType);
 
-// A value copy of a phase for the undo history, able to make the phase anew
-// under its old id.
-struct PhaseSnapshot {
-    PhaseSnapshot() = default;
-    explicit PhaseSnapshot(const Phase& phase);
-    std::unique_ptr<Phase> Rebuild() const;
+// A phase as the undo history keeps it. A deletion also notes the phases
+// whose primary and whose secondary geometry link pointed at it.
+struct PhaseSnapshot : Snapshot<Phase> {
+    using Snapshot::Snapshot;
 
-    std::int32_t id = 0;
-    std::string name;
-    std::int32_t generationType = 4;
-    std::map<std::string, std::string> blocks;
-    std::string blocksFolder;
-    std::vector<GateSlot> inputs;
-    std::vector<GateSlot> outputs;
-    std::map<std::string, std::vector<std::string>> blockProperties;
-    std::vector<std::string> geoParams;
-    std::string allocationType;
-    std::int32_t colorIndex = 0;
-    std::int32_t caseId = 0;
-    std::int32_t primaryLinkId = 0;
-    std::int32_t secondaryLinkId = 0;
-    std::vector<std::int32_t> checkIds;
-    std::vector<std::int32_t> actionIds;
-    // Filled by a deletion only: the phases whose primary or secondary
-    // geometry link pointed at this one.
     std::vector<std::int32_t> primaryReferrers;
     std::vector<std::int32_t> secondaryReferrers;
-    std::int32_t posX = 0;
-    std::int32_t posY = 0;
 };
 
 } // namespace lw

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "objects/EditorObject.h"
+#include "objects/Snapshot.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -15,7 +15,9 @@ class Switch : public EditorObject {
 public:
     explicit Switch(std::int32_t id) : EditorObject(id) {}
 
-    ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override;
+    ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override {
+        return CentredScreenRect(viewX, viewY, scale, GetRadius(), GetRadius());
+    }
     int GetRadius() const override { return 50; }
     ObjectKind GetKind() const override { return ObjectKind::Switch; }
 
@@ -28,19 +30,6 @@ public:
     std::vector<std::int32_t> caseIds;
 };
 
-struct SwitchSnapshot {
-    SwitchSnapshot() = default;
-    explicit SwitchSnapshot(const Switch& object);
-    std::unique_ptr<Switch> Rebuild() const;
-
-    std::int32_t id = 0;
-    std::string name;
-    std::int32_t number = 0;
-    std::int32_t preliminaryCheck = 0;
-    std::int32_t planeType = 0;
-    std::vector<std::int32_t> caseIds;
-    std::int32_t posX = 0;
-    std::int32_t posY = 0;
-};
+using SwitchSnapshot = Snapshot<Switch>;
 
 } // namespace lw

@@ -20,20 +20,6 @@ bool Unlinker::HasOutputGate(const std::string& gateName) const {
     return Contains(outputGates, gateName);
 }
 
-UnlinkerSnapshot::UnlinkerSnapshot(const Unlinker& object)
-    : id(object.id), phaseId(object.phaseId), inputGates(object.inputGates),
-      outputGates(object.outputGates), posX(object.posX), posY(object.posY) {}
-
-std::unique_ptr<Unlinker> UnlinkerSnapshot::Rebuild() const {
-    auto object = std::make_unique<Unlinker>(id);
-    object->phaseId = phaseId;
-    object->inputGates = inputGates;
-    object->outputGates = outputGates;
-    object->posX = posX;
-    object->posY = posY;
-    return object;
-}
-
 std::string StripSetPrefix(const std::string& text) {
     return text.size() < 8 ? text : text.substr(7);
 }

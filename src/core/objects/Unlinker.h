@@ -1,9 +1,9 @@
 #pragma once
 
 #include "objects/EditorObject.h"
+#include "objects/Snapshot.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -27,18 +27,7 @@ public:
     std::vector<std::string> outputGates;
 };
 
-struct UnlinkerSnapshot {
-    UnlinkerSnapshot() = default;
-    explicit UnlinkerSnapshot(const Unlinker& object);
-    std::unique_ptr<Unlinker> Rebuild() const;
-
-    std::int32_t id = 0;
-    std::int32_t phaseId = 0;
-    std::vector<std::string> inputGates;
-    std::vector<std::string> outputGates;
-    std::int32_t posX = 0;
-    std::int32_t posY = 0;
-};
+using UnlinkerSnapshot = Snapshot<Unlinker>;
 
 // Gets from a "blocks_" or "unlink_" name back to the phase's name: drops the
 // first seven characters of a text of eight or more, whatever they are.
