@@ -8,9 +8,7 @@ namespace lw {
 
 void Weaver::ClearDocument() {
     fileName.clear();
-    undoManager.ClearUndoStack();
-    undoManager.ClearRedoStack();
-    undoManager.changed = false;
+    undoManager.ClearHistory();
     ClearObjects();
 }
 
@@ -24,9 +22,6 @@ bool Weaver::LoadTemplateFile(const std::string& path) {
         BuildFromDesc(desc);
         options.SetLastUsedTemplateName(path);
         fileName = path;
-        undoManager.ClearUndoStack();
-        undoManager.ClearRedoStack();
-        undoManager.changed = false;
     } else {
         prompts.ShowMessage("Can't open template file!", MessageIcon::Stop);
     }
@@ -51,9 +46,7 @@ bool Weaver::SaveTemplateFile() {
 }
 
 void Weaver::BuildFromDesc(TemplateDesc& desc) {
-    undoManager.ClearUndoStack();
-    undoManager.ClearRedoStack();
-    undoManager.changed = false;
+    undoManager.ClearHistory();
     TemplateBuilder(*this, blockPool, prompts).Build(desc);
 }
 

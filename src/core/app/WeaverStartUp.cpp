@@ -15,9 +15,7 @@ void Weaver::StartUp(const std::string& dataFolderPath) {
     ReadCatalogue(modelsPath, modelList);
     ReadCatalogue(actionsPath, ruleCatalogue);
     blockPool.Load(blockFolders);
-    undoManager.ClearUndoStack();
-    undoManager.ClearRedoStack();
-    undoManager.changed = false;
+    undoManager.ClearHistory();
     options.Load(optionsStore);
     if (options.OpenLastUsedTemplateOnStart && !options.LastUsedTemplateName.empty())
         LoadTemplateFile(options.LastUsedTemplateName);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/TemplateDesc.h"
+#include "operations/EraseMarked.h"
 
 #include <string>
 #include <unordered_map>
@@ -19,17 +20,7 @@ public:
             byName_[sets[i].name].records.push_back(i);
     }
 
-    ~BlockSetPool() {
-        std::size_t kept = 0;
-        for (std::size_t i = 0; i < sets_.size(); ++i) {
-            if (used_[i])
-                continue;
-            if (kept != i)
-                sets_[kept] = std::move(sets_[i]);
-            ++kept;
-        }
-        sets_.resize(kept);
-    }
+    ~BlockSetPool() { EraseMarked(sets_, used_); }
 
     BlockSetPool(const BlockSetPool&) = delete;
     BlockSetPool& operator=(const BlockSetPool&) = delete;

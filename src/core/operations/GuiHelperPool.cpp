@@ -1,6 +1,7 @@
 #include "operations/GuiHelperPool.h"
 
 #include "objects/Unlinker.h"
+#include "operations/EraseMarked.h"
 
 namespace lw {
 
@@ -20,17 +21,9 @@ template <typename Index, typename Key> auto* QueueOf(Index& index, const Key& k
 } // namespace
 
 GuiHelperPool::~GuiHelperPool() {
-    if (taken_.empty())
-        return;
-    std::size_t kept = 0;
-    for (std::size_t i = 0; i < helpers_.size(); ++i) {
-        if (taken_[i])
-            continue;
-        if (kept != i)
-            helpers_[kept] = std::move(helpers_[i]);
-        ++kept;
-    }
-    helpers_.resize(kept);
+    // Nothing was taken if nothing was ever looked for.
+    if (!taken_.empty())
+        EraseMarked(helpers_, taken_);
 }
 
 void GuiHelperPool::EnsureTaken() {

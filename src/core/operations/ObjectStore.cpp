@@ -102,22 +102,24 @@ template <typename T> T* ObjectStore::Create() {
     return object;
 }
 
+// Building copies the file's name over this default; a user's creation
+// command gives its own.
+template <typename T> T* ObjectStore::CreateNamed(const char* prefix) {
+    T* object = Create<T>();
+    object->name = prefix + std::to_string(object->id);
+    return object;
+}
+
 Phase* ObjectStore::NewPhase() {
-    Phase* phase = Create<Phase>();
-    phase->name = "phase_" + std::to_string(phase->id);
-    return phase;
+    return CreateNamed<Phase>("phase_");
 }
 
 Case* ObjectStore::NewCase() {
-    Case* object = Create<Case>();
-    object->name = "case_" + std::to_string(object->id);
-    return object;
+    return CreateNamed<Case>("case_");
 }
 
 Switch* ObjectStore::NewSwitch() {
-    Switch* object = Create<Switch>();
-    object->name = "switch_" + std::to_string(object->id);
-    return object;
+    return CreateNamed<Switch>("switch_");
 }
 
 Check* ObjectStore::NewCheck() {

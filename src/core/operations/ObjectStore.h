@@ -81,6 +81,7 @@ public:
 
 private:
     template <typename T> T* Create();
+    template <typename T> T* CreateNamed(const char* prefix);
     template <typename T> T* FindByName(const std::string& name, const ObjectList* list) const;
     template <typename T> bool NameTaken(std::int32_t id, const std::string& name) const;
 };

@@ -12,6 +12,18 @@ std::string BlockSetName(const Phase& phase) {
     return kBlockSetPrefix + phase.name;
 }
 
+// The names of the objects the ids resolve to, in order; an id that
+// resolves to nothing leaves no entry.
+template <typename Resolve>
+std::vector<std::string> NamesOf(const std::vector<std::int32_t>& ids, Resolve resolve) {
+    std::vector<std::string> names;
+    for (std::int32_t id : ids) {
+        if (const auto* object = resolve(id))
+            names.push_back(object->name);
+    }
+    return names;
+}
+
 template <typename T>
 void ExportEach(const ObjectStore& store, TemplateExporter& exporter,
                 void (TemplateExporter::*exportOne)(const T&)) {
@@ -69,10 +81,8 @@ void TemplateExporter::ExportPhase(const Phase& phase) {
 void TemplateExporter::ExportCase(const Case& object) {
     CaseDesc record;
     record.name = object.name;
-    for (std::int32_t id : object.phaseIds) {
-        if (const Phase* phase = ResolvePhase(id))
-            record.phaseNames.push_back(phase->name);
-    }
+    record.phaseNames =
+        NamesOf(object.phaseIds, [this](std::int32_t id) { return ResolvePhase(id); });
     desc.cases.push_back(std::move(record));
     AddGuiHelper(object, object.name);
 }
@@ -83,10 +93,7 @@ void TemplateExporter::ExportSwitch(const Switch& object) {
     record.number = object.number;
     record.preliminaryCheck = object.preliminaryCheck;
     record.planeType = object.planeType;
-    for (std::int32_t id : object.caseIds) {
-        if (const Case* found = ResolveCase(id))
-            record.caseNames.push_back(found->name);
-    }
+    record.caseNames = NamesOf(object.caseIds, [this](std::int32_t id) { return ResolveCase(id); });
     desc.switches.push_back(std::move(record));
     AddGuiHelper(object, object.name);
 }

@@ -39,4 +39,10 @@ void UndoManager::ClearRedoStack() {
     ClearNewestFirst(redoStack);
 }
 
+void UndoManager::ClearHistory() {
+    ClearUndoStack();
+    ClearRedoStack();
+    changed = false;
+}
+
 } // namespace lw

@@ -26,6 +26,8 @@ public:
     void Push(std::unique_ptr<UR_Command> command);
     void ClearUndoStack();
     void ClearRedoStack();
+    // Forgets the whole history of the document, as a new or newly read one has none.
+    void ClearHistory();
 
     Weaver* editor;
     bool changed = false;
