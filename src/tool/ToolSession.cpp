@@ -7,10 +7,14 @@ ToolSession::ToolSession(const std::string& dataFolder) {
 }
 
 std::vector<std::string> ToolSession::TakeMessages() {
-    const std::vector<std::string> all = prompts.MessageTexts();
-    std::vector<std::string> fresh(all.begin() + static_cast<std::ptrdiff_t>(messagesTaken_),
-                                   all.end());
-    messagesTaken_ = all.size();
+    // Only the messages since the last call are copied, so that checking many
+    // templates does not go over the earlier ones again.
+    const auto& log = prompts.Log();
+    std::vector<std::string> fresh;
+    for (; messagesTaken_ < log.size(); ++messagesTaken_) {
+        if (!log[messagesTaken_].isQuestion)
+            fresh.push_back(log[messagesTaken_].text);
+    }
     return fresh;
 }
 
