@@ -6,8 +6,10 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QKeySequence>
 #include <QMenuBar>
+#include <QUrl>
 
 CMainFrame::CMainFrame(QWidget* parent)
     : QMainWindow(parent), weaver_(prompts_, optionsStore_, fileSystem_),
@@ -50,6 +52,10 @@ void CMainFrame::SetTitle(const std::string& title) {
 
 void CMainFrame::Repaint() {
     view_.update();
+}
+
+void CMainFrame::OpenTextFile(const std::string& path) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(PathToQString(path)));
 }
 
 void CMainFrame::closeEvent(QCloseEvent* event) {

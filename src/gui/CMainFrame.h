@@ -29,6 +29,7 @@ public:
 
     void SetTitle(const std::string& title) override;
     void Repaint() override;
+    void OpenTextFile(const std::string& path) override;
 
 protected:
     // Asks about unsaved changes first; a close that goes on saves the options.

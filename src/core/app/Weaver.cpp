@@ -16,6 +16,17 @@ std::string Weaver::Title() const {
     return std::string(kApplicationName) + " - " + fileName + (undoManager.changed ? "*" : "");
 }
 
+void Weaver::ForgetObject(const EditorObject* object) {
+    ObjectStore::ForgetObject(object);
+    // An undo may take away the object a gesture is placing or linking from.
+    if (object == pendingPhase)
+        pendingPhase = nullptr;
+    if (object == pendingCase)
+        pendingCase = nullptr;
+    if (object == pendingSwitch)
+        pendingSwitch = nullptr;
+}
+
 void Weaver::RefreshTitle() {
     if (viewHost != nullptr)
         viewHost->SetTitle(Title());

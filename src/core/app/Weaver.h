@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/EditorOptions.h"
+#include "canvas/InteractionState.h"
 #include "catalog/BlocksContainer.h"
 #include "catalog/ModelList.h"
 #include "catalog/RuleCatalogue.h"
@@ -16,6 +17,8 @@
 #include <vector>
 
 namespace lw {
+
+class DrawingSurface;
 
 // The central object: it owns the catalogues, the command history, the
 // options and the document (the store it derives from), and every operation
@@ -50,6 +53,31 @@ public:
     void RefreshTitle();
     void Repaint();
 
+    // The Edit menu's history commands: the newest command of one stack goes
+    // to the other. Both mark the document as changed and repaint.
+    void Undo();
+    void Redo();
+
+    // Copies and pastes go through template files (the clipboard is
+    // kClipboardPath in the data folder). ExportSelection writes the selected
+    // phases, cases and switches with what belongs to them; PlaceTemplate
+    // imports a file centred on a window point as one undoable command.
+    static constexpr const char* kClipboardPath = "scg\\clipboard.mt";
+    void ExportSelection(const std::string& path);
+    void PlaceTemplate(const std::string& path, int x, int y, int viewX, int viewY, float scale);
+    // Deletes the selection and all that goes with it as one undoable command.
+    void DeleteSelection();
+
+    // Rereads the block pool and brings the document into line with it,
+    // logging every change to kReloadLogPath, which is then opened for the
+    // user. Clears the history; the document stays changed.
+    static constexpr const char* kReloadLogPath = "reload_blocks_log.txt";
+    void ReloadBlocks();
+
+    // Draws the whole document, with the gesture in progress, as the canvas
+    // shows it at this view offset and scale.
+    void PaintScene(DrawingSurface& dc, int viewX, int viewY, float scale) const;
+
     void SetViewHost(ViewHost* host) { viewHost = host; }
     // The canvas whose offset and scale the selection's bounds follow.
     void SetView(const ViewTransform* canvasView) { selection.view = canvasView; }
@@ -75,6 +103,28 @@ public:
     std::string modelsPath = "models.cfg";
     std::string actionsPath = "actions.cfg";
     std::vector<std::string> blockFolders;
+
+    // The pointer's gesture, which the canvas shows while it lasts.
+    int interactionState = StateIdle;
+    CanvasCursor currentCursor = CanvasCursor::Arrow;
+    std::int32_t pointerX = 0;
+    std::int32_t pointerY = 0;
+    ScreenRect bandRect;
+    ScreenRect previousBandRect;
+    bool bandActive = false;
+    // The object being placed; pendingPhase is also the source of a link gesture.
+    Phase* pendingPhase = nullptr;
+    Case* pendingCase = nullptr;
+    Switch* pendingSwitch = nullptr;
+    std::string pendingImportPath;
+    // The picked link; a source id of 0 means none.
+    Link selectedLink;
+    // The phase whose primary or secondary geometry link is picked; 0 for none.
+    std::uint32_t pickedGeometryPhase = 0;
+    bool pickedIsPrimary = true;
+
+protected:
+    void ForgetObject(const EditorObject* object) override;
 
 private:
     template <typename Catalogue> void ReadCatalogue(const std::string& path, Catalogue& catalogue);

@@ -149,7 +149,17 @@ void ObjectStore::RemoveObject(EditorObject* object) {
     const auto indexed = objectIndex.find(object->id);
     if (indexed != objectIndex.end() && indexed->second == object)
         objectIndex.erase(indexed);
+    ForgetObject(object);
     objects.erase(found);
+}
+
+void ObjectStore::ForgetObject(const EditorObject* object) {
+    // The selection must never hold a destroyed object, whoever destroys it:
+    // an undo, a redo or a removal.
+    if (selection.Contains(object)) {
+        selection.Remove(object);
+        selection.Recalculate();
+    }
 }
 
 void ObjectStore::RemoveLink(const Link& link) {

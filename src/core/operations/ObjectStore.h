@@ -62,8 +62,8 @@ public:
 
     // Enters an object rebuilt under its old id at the end of the list.
     EditorObject* Restore(std::unique_ptr<EditorObject> object);
-    // Destroys the object. The selection and other objects' references to it
-    // are the caller's matter.
+    // Destroys the object and takes it out of the selection. Other objects'
+    // references to it are the caller's matter.
     void RemoveObject(EditorObject* object);
     // Removes the first equal link; the gate marks stay until refreshed.
     void RemoveLink(const Link& link);
@@ -78,6 +78,11 @@ public:
     ObjectsGroup selection;
     std::int32_t nextId = 1;
     std::map<std::int32_t, EditorObject*> objectIndex;
+
+protected:
+    // Called just before an object is destroyed, so that nothing that only
+    // points at it keeps it.
+    virtual void ForgetObject(const EditorObject* object);
 
 private:
     template <typename T> T* Create();

@@ -4,6 +4,7 @@
 #include "platform/MemoryFileSystem.h"
 #include "platform/MemoryOptionsStore.h"
 #include "platform/RecordingPrompts.h"
+#include "support/RecordingViewHost.h"
 #include "support/TestFiles.h"
 
 #include <deque>
@@ -44,14 +45,6 @@ private:
     }
 };
 
-class RecordingHost : public ViewHost {
-public:
-    void SetTitle(const std::string& text) override { title = text; }
-    void Repaint() override { ++repaints; }
-    std::string title;
-    int repaints = 0;
-};
-
 class FileCommandsTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -75,7 +68,7 @@ protected:
     MemoryFileSystem disk;
     MemoryOptionsStore store;
     RecordingPrompts prompts;
-    RecordingHost host;
+    test::RecordingViewHost host;
     Weaver weaver{prompts, store, disk};
     ScriptedDialogs dialogs;
     FileCommands commands{weaver, dialogs};

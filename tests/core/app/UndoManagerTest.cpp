@@ -4,6 +4,7 @@
 #include "platform/MemoryFileSystem.h"
 #include "platform/MemoryOptionsStore.h"
 #include "platform/RecordingPrompts.h"
+#include "support/RecordingViewHost.h"
 
 #include <gtest/gtest.h>
 
@@ -23,13 +24,6 @@ public:
 private:
     int number_;
     std::vector<int>& destroyed_;
-};
-
-class TitleRecorder : public ViewHost {
-public:
-    void SetTitle(const std::string& title) override { titles.push_back(title); }
-    void Repaint() override {}
-    std::vector<std::string> titles;
 };
 
 class UndoManagerTest : public ::testing::Test {
@@ -66,7 +60,7 @@ TEST_F(UndoManagerTest, APushEndsTheRedoBranch) {
 }
 
 TEST_F(UndoManagerTest, ANullPushMarksTheDocumentAndKeepsTheRedoStack) {
-    TitleRecorder host;
+    test::RecordingViewHost host;
     weaver.SetViewHost(&host);
     weaver.fileName = "scg\\a.mt";
     history.redoStack.push_back(Command(1));

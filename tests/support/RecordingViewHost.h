@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/ViewHost.h"
+
+#include <string>
+#include <vector>
+
+namespace lw::test {
+
+// A window that remembers what the document asked of it.
+class RecordingViewHost : public ViewHost {
+public:
+    void SetTitle(const std::string& text) override {
+        title = text;
+        titles.push_back(text);
+    }
+    void Repaint() override { ++repaints; }
+    void OpenTextFile(const std::string& path) override { openedFiles.push_back(path); }
+
+    std::string title;
+    std::vector<std::string> titles;
+    int repaints = 0;
+    std::vector<std::string> openedFiles;
+};
+
+} // namespace lw::test
