@@ -1,0 +1,38 @@
+#pragma once
+
+#include "app/Weaver.h"
+#include "objects/ViewTransform.h"
+#include "platform/MemoryFileSystem.h"
+#include "platform/MemoryOptionsStore.h"
+#include "platform/RecordingPrompts.h"
+#include "support/RecordingViewHost.h"
+
+#include <string>
+
+namespace lw::test {
+
+// An editor started on a copy of the sample data folder held in memory, with
+// recording seams and a canvas view at the origin and scale 1. Tests may
+// change the files freely before or after start.
+class SampleEditor {
+public:
+    static constexpr const char* kData = "/Sim/Data";
+
+    SampleEditor();
+
+    // Starts on the data folder with an empty document.
+    void StartUp();
+    // Opens a template of the data folder, such as "scg\\sample_rich.mt".
+    void Open(const std::string& path);
+    // The template text that Save would write now.
+    std::string SavedText() const;
+
+    MemoryFileSystem disk;
+    MemoryOptionsStore store;
+    RecordingPrompts prompts;
+    RecordingViewHost host;
+    ViewTransform view;
+    Weaver weaver{prompts, store, disk};
+};
+
+} // namespace lw::test
