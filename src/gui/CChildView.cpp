@@ -1,21 +1,22 @@
 #include "CChildView.h"
 
+#include "CMainFrame.h"
+#include "CanvasImage.h"
+
 #include <QPainter>
 
 CChildView::CChildView(QWidget* parent) : QWidget(parent) {
-    font.setFamily(QStringLiteral("Arial"));
-    font.setPixelSize(12);
-    font.setWeight(QFont::Normal);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
 }
 
 void CChildView::paintEvent(QPaintEvent*) {
-    // Qt already paints widgets through a back buffer, so drawing straight
-    // onto the widget never flickers.
-    QPainter painter(this);
-    painter.fillRect(rect(), Qt::white);
-    painter.setPen(QPen(Qt::black, 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    // The document lives in the main window; a canvas outside one shows nothing.
+    auto* frame = qobject_cast<CMainFrame*>(window());
+    if (frame == nullptr)
+        return;
+    // The whole canvas is painted into an image first and then shown at once,
+    // so that a repaint never shows a scene half drawn.
+    const QImage image = lw::PaintCanvasImage(frame->weaver(), *this, viewFont, size());
+    QPainter(this).drawImage(0, 0, image);
 }

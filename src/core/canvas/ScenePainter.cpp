@@ -1,0 +1,365 @@
+#include "canvas/ScenePainter.h"
+
+#include "canvas/CanvasPalette.h"
+#include "canvas/InteractionState.h"
+#include "document/Keywords.h"
+
+namespace lw {
+
+namespace {
+
+// Everything that leads to a phase ends here, deliberately off the centre of
+// its box, in world units from its top-left corner.
+constexpr int kConnectionX = 66;
+constexpr int kConnectionY = 50;
+
+// Gate stubs reach this far out of the box, in world units.
+constexpr int kGateStubLength = 150;
+
+// Insets of the phase's texts and of the gate labels, in pixels at any zoom.
+constexpr int kPhaseTextInset = 5;
+constexpr int kGateLabelHeight = 20;
+constexpr int kGateLabelInset = 2;
+
+ScreenRect Shrunk(ScreenRect rect, int inset) {
+    return ScreenRect{rect.left + inset, rect.top + inset, rect.right - inset, rect.bottom - inset};
+}
+
+// The generation keyword with the parameters it shows on the phase: the first
+// one for at, azimuth, random and server_waypoint, the first two for fractal
+// and line, none for the others.
+std::string GeometryText(const Phase& phase) {
+    const std::vector<std::string>& p = phase.geoParams;
+    std::string shown;
+    switch (phase.generationType) {
+    case GenerationAt:
+    case GenerationAzimuth:
+    case GenerationRandom:
+    case GenerationServerWaypoint:
+        if (!p.empty())
+            shown = p[0];
+        break;
+    case GenerationFractal:
+    case GenerationLine:
+        if (p.size() >= 2)
+            shown = p[0] + "," + p[1];
+        break;
+    default:
+        break;
+    }
+    return generationTypeToKeyword(static_cast<GenerationType>(phase.generationType)) + "(" +
+           shown + ")";
+}
+
+// A phase whose placement needs a geometry link it does not have.
+bool LacksMandatoryLink(const Phase& phase) {
+    return (HasPrimaryLink(phase.generationType) && phase.primaryLinkId == 0) ||
+           (HasSecondaryLink(phase.generationType) && phase.secondaryLinkId == 0);
+}
+
+} // namespace
+
+std::string GeometryDetailText(const Phase& phase) {
+    const std::vector<std::string>& p = phase.geoParams;
+    const std::int32_t type = phase.generationType;
+    std::string text;
+    if (type == GenerationAzimuth && p.size() >= 4)
+        text = p[0] + "; " + p[1] + "; " + p[2];
+    // A second run, appended with no separator: an azimuth phase with five
+    // parameters shows the third one twice.
+    const bool spread =
+        type == GenerationAzimuth || type == GenerationFractal || type == GenerationLine;
+    if (spread && p.size() >= 5)
+        text += p[2] + "; " + p[3] + "; " + p[4];
+    return text;
+}
+
+ScenePainter::ScenePainter(const ObjectStore& store, const EditorOptions& options,
+                           const SceneGesture& gesture, DrawingSurface& dc,
+                           const ViewTransform& view)
+    : store_(store), options_(options), gesture_(gesture), dc_(dc), view_(view) {}
+
+void ScenePainter::PaintScene() const {
+    // The band is filled first, under everything, with whatever pen the
+    // surface holds, and gets its edge once the objects are drawn.
+    if (gesture_.bandActive) {
+        dc_.SelectBrush(kBandBrush);
+        dc_.Rectangle(gesture_.bandRect);
+    }
+    PaintPhases();
+    PaintLinks();
+    PaintCases();
+    PaintSwitches();
+    PaintChecks();
+    PaintActions();
+    PaintUnlinkers();
+    if (gesture_.bandActive)
+        dc_.DrawBumpEdge(gesture_.bandRect);
+    PaintGestureLine();
+}
+
+void ScenePainter::PaintPhases() const {
+    for (const auto& object : store_.objects) {
+        const Phase* phase = As<Phase>(object.get());
+        if (phase == nullptr)
+            continue;
+        PaintPhaseBox(*phase);
+        if (options_.DrawInputOutputs) {
+            PaintGates(*phase, true);
+            PaintGates(*phase, false);
+        }
+        if (options_.DrawGeometry)
+            PaintGeometry(*phase);
+    }
+    if (options_.DrawGeometry)
+        PaintPickedGeometryLink();
+}
+
+void ScenePainter::PaintPhaseBox(const Phase& phase) const {
+    const ScreenRect r = phase.GetScreenRect(view_.viewX, view_.viewY, view_.scale);
+    dc_.SelectPen(LacksMandatoryLink(phase) ? kThickRedPen : kThinBlackPen);
+    // The selection colour hides the phase's own colour.
+    dc_.SelectBrush(store_.selection.Contains(&phase) ? kSelectedBrush
+                                                      : PhaseFill(phase.GetColorIndex()));
+    dc_.Rectangle(r);
+    dc_.DrawText(phase.name, Shrunk(r, kPhaseTextInset), TextCentre | TextNoClip);
+}
+
+// A stub with the gate's name above it and an arrowhead at its right end for
+// an input, at its left end for an output: both point to the right, the
+// output's barbs reaching back into the box.
+void ScenePainter::PaintGates(const Phase& phase, bool isInput) const {
+    const std::vector<GateSlot>& gates = isInput ? phase.inputs : phase.outputs;
+    const std::int64_t step = Phase::kHeight / (static_cast<std::int64_t>(gates.size()) + 1);
+    const std::int64_t boxRight = std::int64_t{phase.posX} + Phase::kWidth;
+    const std::int32_t x0 =
+        ScreenX(isInput ? phase.posX - std::int64_t{kGateStubLength} : boxRight);
+    const std::int32_t x1 = ScreenX(isInput ? phase.posX : boxRight + kGateStubLength);
+    const std::int32_t tipX = isInput ? x1 : x0;
+    const std::int32_t a = TruncateToInt(view_.scale * -15.0f);
+    const std::int32_t b = TruncateToInt(view_.scale * -10.0f);
+    const std::int32_t c = TruncateToInt(view_.scale * 10.0f);
+    const unsigned labelFlags =
+        TextBottom | TextSingleLine | TextNoClip | (isInput ? TextLeft : TextRight);
+    for (std::size_t i = 0; i < gates.size(); ++i) {
+        const std::int32_t y = ScreenY(step * static_cast<std::int64_t>(i + 1) + phase.posY);
+        dc_.SelectPen(gates[i].openMark ? kThickRedPen : kThinBlackPen);
+        dc_.Line({x0, y}, {x1, y});
+        const ScreenRect label =
+            Shrunk(ScreenRect{x0, y - kGateLabelHeight, x1, y}, kGateLabelInset);
+        dc_.DrawText(gates[i].name, label, labelFlags);
+        dc_.Line({tipX + a, y + b}, {tipX, y});
+        dc_.Line({tipX + a, y + c}, {tipX, y});
+    }
+}
+
+void ScenePainter::PaintGeometry(const Phase& phase) const {
+    const ScreenRect t =
+        Shrunk(phase.GetScreenRect(view_.viewX, view_.viewY, view_.scale), kPhaseTextInset);
+    const Rgb previousColour = dc_.SetTextColour(kGeometryTextColour);
+    dc_.DrawText(GeometryText(phase), t,
+                 TextCentre | TextVerticalCentre | TextSingleLine | TextNoClip);
+    const std::string detail = GeometryDetailText(phase);
+    if (!detail.empty()) {
+        dc_.SetTextColour(kGeometryDetailColour);
+        dc_.DrawText(detail, t, TextCentre | TextBottom | TextSingleLine | TextNoClip);
+    }
+    dc_.SetTextColour(previousColour);
+
+    // A server_waypoint phase needs no primary link, yet shows one it has.
+    const std::int32_t type = phase.generationType;
+    if (type == GenerationServerSetPos || type == GenerationServerTargetPos)
+        return;
+    if (const Phase* target = store_.FindPhase(phase.primaryLinkId))
+        PaintGeometryLink(phase, *target, true);
+    if (HasSecondaryLink(type)) {
+        if (const Phase* target = store_.FindPhase(phase.secondaryLinkId))
+            PaintGeometryLink(phase, *target, false);
+    }
+}
+
+// The last tenth of the line, next to the target, is drawn thick and stands
+// in for an arrowhead.
+void ScenePainter::PaintGeometryLink(const Phase& fromPhase, const Phase& toPhase,
+                                     bool isPrimary) const {
+    const ScreenPoint s = ConnectionPoint(&fromPhase);
+    const ScreenPoint t = Anchor(toPhase);
+    dc_.SelectPen(isPrimary ? kThinBluePen : kThinRedPen);
+    dc_.Line(s, t);
+    dc_.SelectPen(isPrimary ? kThickBluePen : kThickRedPen);
+    const ScreenPoint head{t.x + TruncateToInt((static_cast<double>(s.x) - t.x) * 0.1),
+                           t.y + TruncateToInt((static_cast<double>(s.y) - t.y) * 0.1)};
+    dc_.Line(t, head);
+}
+
+void ScenePainter::PaintPickedGeometryLink() const {
+    if (gesture_.pickedGeometryPhase == 0)
+        return;
+    const Phase* phase = store_.FindPhase(static_cast<std::int32_t>(gesture_.pickedGeometryPhase));
+    if (phase == nullptr)
+        return;
+    const Phase* target =
+        store_.FindPhase(gesture_.pickedIsPrimary ? phase->primaryLinkId : phase->secondaryLinkId);
+    if (target == nullptr)
+        return;
+    dc_.SelectPen(kBrightGreenPen);
+    dc_.Line(ConnectionPoint(phase), Anchor(*target));
+}
+
+// Links run between the far ends of the gate stubs and have no arrowheads.
+void ScenePainter::PaintLinks() const {
+    if (!options_.DrawInputOutputs)
+        return;
+    for (const Link& link : store_.links) {
+        dc_.SelectPen(link.isObjectLink ? kDashedGreenPen : kThinBluePen);
+        dc_.Line(GatePoint(link.fromPhaseId, link.fromGate, false),
+                 GatePoint(link.toPhaseId, link.toGate, true));
+    }
+    const Link& picked = gesture_.selectedLink;
+    if (picked.fromPhaseId != 0) {
+        dc_.SelectPen(kBrightGreenPen);
+        dc_.Line(GatePoint(picked.fromPhaseId, picked.fromGate, false),
+                 GatePoint(picked.toPhaseId, picked.toGate, true));
+    }
+}
+
+void ScenePainter::PaintCases() const {
+    if (!options_.DrawSwitchAndCases)
+        return;
+    for (const auto& object : store_.objects) {
+        const Case* item = As<Case>(object.get());
+        if (item == nullptr)
+            continue;
+        dc_.SelectPen(kThinBlackPen);
+        SelectFill(*item);
+        dc_.Ellipse(item->GetScreenRect(view_.viewX, view_.viewY, view_.scale));
+        dc_.SelectPen(kThinBluePen);
+        for (std::int32_t phaseId : item->phaseIds)
+            dc_.Line(Anchor(*item), ConnectionPoint(store_.FindPhase(phaseId)));
+    }
+}
+
+void ScenePainter::PaintSwitches() const {
+    if (!options_.DrawSwitchAndCases)
+        return;
+    for (const auto& object : store_.objects) {
+        const Switch* item = As<Switch>(object.get());
+        if (item == nullptr)
+            continue;
+        const ScreenRect r = item->GetScreenRect(view_.viewX, view_.viewY, view_.scale);
+        dc_.SelectPen(kThinRedPen);
+        SelectFill(*item);
+        dc_.Ellipse(r);
+        for (std::int32_t caseId : item->caseIds) {
+            if (const Case* target = store_.FindCase(caseId))
+                dc_.Line(Anchor(*item), Anchor(*target));
+        }
+        dc_.SelectPen(kThinBlackPen);
+        const std::string count =
+            std::to_string(item->number) + " of " + std::to_string(item->caseIds.size());
+        dc_.DrawText(count, r, TextCentre | TextVerticalCentre | TextSingleLine | TextNoClip);
+    }
+}
+
+// The check's type starts right of the box's left edge and runs out of it.
+void ScenePainter::PaintChecks() const {
+    if (!options_.DrawChecks)
+        return;
+    const std::int32_t corner = TruncateToInt(view_.scale * 15.0f);
+    const std::int32_t textShift = TruncateToInt(view_.scale * 32.0f);
+    for (const auto& object : store_.objects) {
+        const Check* check = As<Check>(object.get());
+        if (check == nullptr)
+            continue;
+        const ScreenRect r = check->GetScreenRect(view_.viewX, view_.viewY, view_.scale);
+        dc_.SelectPen(kThinBlackPen);
+        SelectFill(*check);
+        dc_.RoundRect(r, corner, corner);
+        dc_.SelectPen(kThinGreenPen);
+        dc_.Line(Anchor(*check), ConnectionPoint(store_.FindPhase(check->phaseId)));
+        const ScreenRect textRect{r.left + textShift, r.top, r.right + textShift, r.bottom};
+        dc_.DrawText(checkTypeToKeyword(static_cast<CheckType>(check->type)), textRect,
+                     TextVerticalCentre | TextSingleLine | TextNoClip);
+    }
+}
+
+void ScenePainter::PaintActions() const {
+    if (!options_.DrawActions)
+        return;
+    const std::int32_t corner = TruncateToInt(view_.scale * 15.0f);
+    for (const auto& object : store_.objects) {
+        const Action* action = As<Action>(object.get());
+        if (action == nullptr)
+            continue;
+        const ScreenRect r = action->GetScreenRect(view_.viewX, view_.viewY, view_.scale);
+        dc_.SelectPen(kThinBlackPen);
+        SelectFill(*action);
+        dc_.RoundRect(r, corner, corner);
+        dc_.SelectPen(kThinGreenPen);
+        dc_.Line(Anchor(*action), ConnectionPoint(store_.FindPhase(action->phaseId)));
+        const std::string owner = action->objectName.empty() ? "*" : action->objectName;
+        dc_.DrawText(owner + ":" + action->name, r,
+                     TextCentre | TextVerticalCentre | TextSingleLine | TextNoClip);
+    }
+}
+
+// Unlinkers have no option of their own: they come and go with the actions.
+void ScenePainter::PaintUnlinkers() const {
+    if (!options_.DrawActions)
+        return;
+    for (const auto& object : store_.objects) {
+        const Unlinker* unlinker = As<Unlinker>(object.get());
+        if (unlinker == nullptr)
+            continue;
+        const ScreenRect r = unlinker->GetScreenRect(view_.viewX, view_.viewY, view_.scale);
+        dc_.SelectPen(kThinBlackPen);
+        SelectFill(*unlinker);
+        dc_.Rectangle(r);
+        dc_.Line({r.left, r.bottom}, {r.right, r.top});
+        dc_.Line({r.left, r.top}, {r.right, r.bottom});
+        dc_.Line(Anchor(*unlinker), ConnectionPoint(store_.FindPhase(unlinker->phaseId)));
+    }
+}
+
+void ScenePainter::PaintGestureLine() const {
+    const int state = gesture_.interactionState;
+    if ((state != StatePrimaryLink && state != StateSecondaryLink) ||
+        gesture_.pendingPhase == nullptr)
+        return;
+    dc_.SelectPen(state == StatePrimaryLink ? kThinBluePen : kThinRedPen);
+    // The pointer is already in window pixels.
+    dc_.Line(ConnectionPoint(gesture_.pendingPhase), {gesture_.pointerX, gesture_.pointerY});
+}
+
+void ScenePainter::SelectFill(const EditorObject& object) const {
+    dc_.SelectBrush(store_.selection.Contains(&object) ? kSelectedBrush : kWhiteBrush);
+}
+
+std::int32_t ScenePainter::ScreenX(std::int64_t worldX) const {
+    return TruncateToInt(static_cast<float>(worldX + view_.viewX) * view_.scale);
+}
+
+std::int32_t ScenePainter::ScreenY(std::int64_t worldY) const {
+    return TruncateToInt(static_cast<float>(worldY + view_.viewY) * view_.scale);
+}
+
+ScreenPoint ScenePainter::Anchor(const EditorObject& object) const {
+    return ScreenPoint{ScreenX(object.posX), ScreenY(object.posY)};
+}
+
+ScreenPoint ScenePainter::ConnectionPoint(const Phase* phase) const {
+    if (phase == nullptr)
+        return ScreenPoint{};
+    return ScreenPoint{ScreenX(std::int64_t{phase->posX} + kConnectionX),
+                       ScreenY(std::int64_t{phase->posY} + kConnectionY)};
+}
+
+ScreenPoint ScenePainter::GatePoint(std::int32_t phaseId, const std::string& gate,
+                                    bool isInput) const {
+    const Phase* phase = store_.FindPhase(phaseId);
+    if (phase == nullptr)
+        return ScreenPoint{};
+    return phase->GateScreenPoint(gate, isInput, view_.scale, view_.viewX, view_.viewY);
+}
+
+} // namespace lw

@@ -1,0 +1,20 @@
+#include "CanvasImage.h"
+
+#include "QPainterSurface.h"
+#include "canvas/CanvasPaint.h"
+
+namespace lw {
+
+QImage PaintCanvasImage(const Weaver& weaver, const ViewTransform& view, const CanvasFont& font,
+                        QSize size) {
+    QImage image(size, QImage::Format_RGB32);
+    if (image.isNull())
+        return image;
+    QPainter painter(&image);
+    QPainterSurface surface(painter);
+    PaintCanvas(surface, weaver, size.width(), size.height(), view, font);
+    painter.end();
+    return image;
+}
+
+} // namespace lw

@@ -1,0 +1,98 @@
+#include "CMainFrame.h"
+#include "QPainterSurface.h"
+#include "QtSurfaceValues.h"
+#include "canvas/CanvasPalette.h"
+
+#include <QFontInfo>
+#include <QImage>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+// A white picture with one drawing made on it through the surface.
+template <typename Draw> QImage Drawn(Draw draw) {
+    QImage image(80, 60, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    lw::QPainterSurface surface(painter);
+    draw(surface);
+    painter.end();
+    return image;
+}
+
+QColor At(const QImage& image, int x, int y) {
+    return QColor(image.pixel(x, y));
+}
+
+} // namespace
+
+// The canvas drawn with Qt's painter: the surface's pixels, its font, and the
+// canvas window painting its document.
+class CanvasPaintingTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void shapesCoverTheirRectangleWithoutItsRightAndBottomEdges() {
+        const QImage image = Drawn([](lw::DrawingSurface& dc) {
+            dc.SelectBrush(lw::kBandBrush);
+            dc.Rectangle(lw::ScreenRect{10, 10, 20, 20});
+        });
+        QCOMPARE(At(image, 10, 10), QColor(Qt::black));
+        QCOMPARE(At(image, 19, 19), QColor(Qt::black));
+        QCOMPARE(At(image, 15, 15), QColor(235, 240, 255));
+        QCOMPARE(At(image, 20, 20), QColor(Qt::white));
+        QCOMPARE(At(image, 9, 9), QColor(Qt::white));
+    }
+
+    void textTakesItsOwnColourAndRunsOutOfItsBox() {
+        const QImage image = Drawn([](lw::DrawingSurface& dc) {
+            dc.SelectFont(lw::CanvasFontAt(1.0f, false));
+            dc.SelectPen(lw::kThinRedPen);
+            dc.SetTextColour(lw::kGeometryTextColour);
+            dc.DrawText("WWWWWW", lw::ScreenRect{39, 29, 41, 31},
+                        lw::TextCentre | lw::TextVerticalCentre | lw::TextSingleLine |
+                            lw::TextNoClip);
+            dc.Line({0, 59}, {79, 59});
+        });
+        // Blue, not the pen's red, far out of its box on both sides; the pen
+        // is red again after it.
+        const auto blueColumn = [&image](int x) {
+            for (int y = 20; y < 40; ++y) {
+                if (At(image, x, y).blue() > At(image, x, y).red() + 100)
+                    return true;
+            }
+            return false;
+        };
+        QVERIFY(blueColumn(25) && blueColumn(55));
+        QCOMPARE(At(image, 40, 59), QColor(255, 0, 0));
+    }
+
+    void canvasFontIsArialOrItsMetricTwin() {
+        const QFontInfo font(lw::ToQFont(lw::CanvasFontAt(1.0f, false)));
+        QVERIFY2(font.family() == "Arial" || font.family() == "Liberation Sans",
+                 qPrintable(font.family()));
+        QCOMPARE(font.pixelSize(), 12);
+        QCOMPARE(QFontInfo(lw::ToQFont(lw::CanvasFontAt(0.05f, true))).pixelSize(), 1);
+    }
+
+    void canvasWindowPaintsTheDocumentOfItsMainWindow() {
+        QTemporaryDir settings;
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+        CMainFrame frame;
+        QVERIFY(frame.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
+        QVERIFY(frame.weaver().LoadTemplateFile("scg\\sample_small.mt"));
+        frame.view().viewX = -300;
+        frame.view().viewY = -200;
+        frame.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&frame));
+        const QImage canvas = frame.view().grab().toImage();
+        QCOMPARE(At(canvas, 0, 0), QColor(Qt::black));
+        // PatrolStart is green and stands at (400, 400).
+        QCOMPARE(At(canvas, 100 + 150, 200 + 120), QColor(150, 255, 150));
+    }
+};
+
+QTEST_MAIN(CanvasPaintingTest)
+#include "CanvasPaintingTest.moc"

@@ -1,0 +1,123 @@
+#include "ToolRun.h"
+#include "support/TestFiles.h"
+
+#include <QColor>
+#include <QImage>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const std::string kDataOption = "--data " + Quoted(lw::test::SampleDataDir()) + " ";
+
+// How many pixels of two pictures of one size differ visibly in a channel.
+int CountDifferentPixels(const QImage& a, const QImage& b) {
+    int count = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
+            count += std::abs(qRed(p) - qRed(q)) > 64 || std::abs(qGreen(p) - qGreen(q)) > 64 ||
+                     std::abs(qBlue(p) - qBlue(q)) > 64;
+        }
+    }
+    return count;
+}
+
+class ToolRenderTest : public ToolFolderTest {
+protected:
+    ToolRun Render(const std::string& options, const std::string& in,
+                   const std::string& out) const {
+        return RunTool("render " + kDataOption + options + " " + Quoted(in) + " " + Quoted(out));
+    }
+};
+
+} // namespace
+
+TEST_F(ToolRenderTest, DrawsTheRichSampleWhereThereIsNoDisplay) {
+    // A build server: no display, and a platform that would need one.
+    setenv("QT_QPA_PLATFORM", "xcb", 1);
+    unsetenv("DISPLAY");
+    const ToolRun run =
+        Render("", lw::test::SampleDataDir() + "/scg/sample_rich.mt", Path("rich.png"));
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.output, "");
+    const QImage picture(QString::fromStdString(Path("rich.png")));
+    // From the switches' left edge at x -650 to the actions' right edge at
+    // 4080, and from the top action at y 165 to the lowest checks at 2387,
+    // with 20 pixels of margin all round.
+    EXPECT_EQ(picture.size(), QSize(4770, 2262));
+    EXPECT_EQ(QColor(picture.pixel(0, 0)), QColor(Qt::black));
+    int coloured = 0;
+    bool yellowPhase = false;
+    for (int y = 0; y < picture.height(); y += 3) {
+        for (int x = 0; x < picture.width(); x += 3) {
+            coloured += picture.pixel(x, y) != qRgb(255, 255, 255);
+            yellowPhase = yellowPhase || picture.pixel(x, y) == qRgb(255, 225, 135);
+        }
+    }
+    EXPECT_GT(coloured, picture.width() * picture.height() / 9 / 50) << "at least 2% drawn";
+    EXPECT_TRUE(yellowPhase);
+}
+
+// Each folder below cases/render holds input.mt, the options of the command
+// in an optional arguments.txt, and the expected.png it draws.
+TEST_F(ToolRenderTest, PicturesMatchTheirReferences) {
+    const auto cases = lw::test::CaseFolders(lw::test::CasesDir() + "/render");
+    ASSERT_FALSE(cases.empty());
+    for (const std::string& caseFolder : cases) {
+        std::string options;
+        if (fs::exists(caseFolder + "/arguments.txt"))
+            options = lw::test::ReadFileBytes(caseFolder + "/arguments.txt");
+        options.erase(options.find_last_not_of(" \r\n") + 1);
+        const ToolRun run = Render(options, caseFolder + "/input.mt", Path("out.png"));
+        EXPECT_EQ(run.status, 0) << caseFolder << ": " << run.output;
+        const QImage actual(QString::fromStdString(Path("out.png")));
+        const QImage expected(QString::fromStdString(caseFolder + "/expected.png"));
+        ASSERT_FALSE(expected.isNull()) << caseFolder;
+        ASSERT_EQ(actual.size(), expected.size()) << caseFolder;
+        // Glyphs may differ a little where the font renderer does; the
+        // drawing itself may not.
+        EXPECT_LE(CountDifferentPixels(actual, expected), actual.width() * actual.height() / 1000)
+            << caseFolder << ": if the change is meant, render input.mt again into expected.png";
+    }
+}
+
+TEST_F(ToolRenderTest, PrintsTheLoadMessagesAndFailsOnFilesItCannotUse) {
+    const std::string bad = Path("bad.mt");
+    std::ofstream(bad, std::ios::binary) << "tlink; Nowhere(done); Also(go);\r\n";
+    ToolRun run = Render("--layers io", bad, Path("bad.png"));
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.output, "Can't find From phase for link\nError adding link!\n");
+    EXPECT_EQ(QImage(QString::fromStdString(Path("bad.png"))).size(), QSize(40, 40))
+        << "an empty template is its margin alone";
+
+    run = Render("", Path("missing.mt"), Path("missing.png"));
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.output, "Can't open template file!\n");
+    EXPECT_FALSE(fs::exists(Path("missing.png")));
+
+    const std::string sample = lw::test::SampleDataDir() + "/scg/sample_small.mt";
+    run = Render("", sample, Path("no/such/folder/out.png"));
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.output,
+              "loomwright-tool: can't write the picture " + Path("no/such/folder/out.png") + "\n");
+}
+
+TEST_F(ToolRenderTest, RefusesLayersAndScalesTheCanvasDoesNotHave) {
+    const std::string sample = lw::test::SampleDataDir() + "/scg/sample_small.mt";
+    for (const char* options : {"--layers io,walls", "--layers io,", "--layers", "--scale 3",
+                                "--scale 0.001", "--scale half", "--colour red"}) {
+        const ToolRun run = Render(options, sample, Path("out.png"));
+        EXPECT_EQ(run.status, 2) << options;
+        EXPECT_NE(run.output.find("usage:"), std::string::npos) << options;
+    }
+    EXPECT_FALSE(fs::exists(Path("out.png")));
+    EXPECT_EQ(RunTool("render " + Quoted(sample)).status, 2);
+    EXPECT_NE(RunTool("--help").output.find("render [--data DIR] [--layers LIST] [--scale S]"),
+              std::string::npos);
+}
