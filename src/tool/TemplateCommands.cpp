@@ -1,13 +1,33 @@
 #include "TemplateCommands.h"
 
 #include "ToolSession.h"
+#include "operations/BlockReloader.h"
 
 namespace {
 
-void Print(std::ostream& out, const std::vector<std::string>& messages,
-           const std::string& prefix = std::string()) {
-    for (const std::string& message : messages)
-        out << prefix << message << "\n";
+// Loads IN as the editor opens it, lets `change` work on the document, and
+// writes OUT as the editor saves it. The messages shown until then are
+// printed first, then the lines `change` returns, then the save's message.
+template <typename Change>
+int RewriteTemplate(const ToolArguments& arguments, std::ostream& out, Change change) {
+    ToolSession session(arguments.dataFolder);
+    lw::Weaver& weaver = session.weaver;
+    bool failed = !weaver.LoadTemplateFile(CommandLinePath(arguments.positional[0]));
+    std::vector<std::string> report;
+    if (!failed)
+        report = change(weaver);
+    std::vector<std::string> messages = session.TakeMessages();
+    PrintLines(out, messages);
+    PrintLines(out, report);
+    if (!failed) {
+        weaver.fileName = CommandLinePath(arguments.positional[1]);
+        failed = !weaver.SaveTemplateFile();
+    }
+    const std::vector<std::string> saveMessages = session.TakeMessages();
+    PrintLines(out, saveMessages);
+    if (failed)
+        return kFailure;
+    return messages.empty() && saveMessages.empty() ? kNoMessage : kMessageShown;
 }
 
 } // namespace
@@ -17,13 +37,13 @@ int RunCheckCommand(const ToolArguments& arguments, std::ostream& out) {
     bool anyMessage = false;
     bool anyUnreadable = false;
     std::vector<std::string> messages = session.TakeMessages();
-    Print(out, messages);
+    PrintLines(out, messages);
     anyMessage = !messages.empty();
     for (const std::string& path : arguments.positional) {
         if (!session.weaver.LoadTemplateFile(CommandLinePath(path)))
             anyUnreadable = true;
         messages = session.TakeMessages();
-        Print(out, messages, path + ": ");
+        PrintLines(out, messages, path + ": ");
         anyMessage = anyMessage || !messages.empty();
     }
     if (anyUnreadable)
@@ -32,15 +52,15 @@ int RunCheckCommand(const ToolArguments& arguments, std::ostream& out) {
 }
 
 int RunNormalizeCommand(const ToolArguments& arguments, std::ostream& out) {
-    ToolSession session(arguments.dataFolder);
-    bool failed = !session.weaver.LoadTemplateFile(CommandLinePath(arguments.positional[0]));
-    if (!failed) {
-        session.weaver.fileName = CommandLinePath(arguments.positional[1]);
-        failed = !session.weaver.SaveTemplateFile();
-    }
-    const std::vector<std::string> messages = session.TakeMessages();
-    Print(out, messages);
-    if (failed)
-        return kFailure;
-    return messages.empty() ? kNoMessage : kMessageShown;
+    return RewriteTemplate(arguments, out, [](lw::Weaver&) { return std::vector<std::string>(); });
+}
+
+int RunReloadCommand(const ToolArguments& arguments, std::ostream& out) {
+    // The same reload as the editor's, with the log printed instead of
+    // written into the data folder and opened.
+    return RewriteTemplate(arguments, out, [](lw::Weaver& weaver) {
+        std::vector<std::string> log;
+        lw::BlockReloader(weaver, weaver.blockPool, log).Run(weaver.blockFolders);
+        return log;
+    });
 }

@@ -1,17 +1,19 @@
 #include "ToolArguments.h"
 
 ToolArguments ToolArguments::Parse(const std::vector<std::string>& words,
-                                   const std::string& defaultDataFolder) {
+                                   const std::string& defaultDataFolder,
+                                   const std::set<std::string>& valuedOptions) {
     ToolArguments arguments;
     arguments.dataFolder = defaultDataFolder;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::string& word = words[i];
-        if (word == "--data") {
+        const bool isData = word == "--data";
+        if (isData || valuedOptions.count(word) != 0) {
             if (i + 1 == words.size()) {
-                arguments.error = "--data needs a folder";
+                arguments.error = word + (isData ? " needs a folder" : " needs a value");
                 break;
             }
-            arguments.dataFolder = words[++i];
+            (isData ? arguments.dataFolder : arguments.values[word]) = words[++i];
         } else if (word.size() > 1 && word[0] == '-') {
             arguments.error = "unknown option " + word;
             break;

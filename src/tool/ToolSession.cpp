@@ -24,3 +24,9 @@ std::string CommandLinePath(const std::string& path) {
         std::filesystem::absolute(std::filesystem::u8path(path), error);
     return error ? path : absolute.generic_u8string();
 }
+
+void PrintLines(std::ostream& out, const std::vector<std::string>& lines,
+                const std::string& prefix) {
+    for (const std::string& line : lines)
+        out << prefix << line << "\n";
+}

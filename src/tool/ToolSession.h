@@ -5,6 +5,7 @@
 #include "platform/NativeFileSystem.h"
 #include "platform/RecordingPrompts.h"
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,10 @@ public:
 private:
     std::size_t messagesTaken_ = 0;
 };
+
+// Prints each line with the prefix before it.
+void PrintLines(std::ostream& out, const std::vector<std::string>& lines,
+                const std::string& prefix = std::string());
 
 // A path given on the command line, relative to the working folder, made
 // absolute so that it does not resolve against the data folder.

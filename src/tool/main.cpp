@@ -1,10 +1,12 @@
 #include "InfoCommand.h"
+#include "RenderCommand.h"
 #include "TemplateCommands.h"
 #include "ToolArguments.h"
 #include "app/DataFolder.h"
 #include "platform/NativeFileSystem.h"
 
 #include <iostream>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -23,6 +25,16 @@ const char* const kUsage =
     "  normalize [--data DIR] IN OUT\n"
     "           load IN as the editor opens it and write OUT as the editor saves\n"
     "           it; the messages are printed without a prefix\n"
+    "  reload [--data DIR] IN OUT\n"
+    "           load IN, reload the blocks as the editor does after its block\n"
+    "           files changed, and write OUT; the messages are printed, then the\n"
+    "           reload's log, instead of writing it into the data folder\n"
+    "  render [--data DIR] [--layers LIST] [--scale S] IN OUT.png\n"
+    "           load IN as the editor opens it, print the messages, and draw the\n"
+    "           whole template as the canvas shows it into the PNG picture OUT;\n"
+    "           LIST is a comma-separated choice of io, cases, checks, actions,\n"
+    "           geometry and all (the default), S the zoom from 0.01 to 2\n"
+    "           (default 1); needs no display\n"
     "  info [--data DIR]\n"
     "           show what the editor reads from the data folder at start:\n"
     "           the configuration, the model and rule catalogues, the block folders\n"
@@ -36,7 +48,8 @@ const char* const kUsage =
     "\n"
     "exit status: 0 when no message was shown, 1 when at least one was,\n"
     "2 for a usage error or a template that cannot be read (\"Can't open\n"
-    "template file!\") or written (\"Can't save template file!\").\n";
+    "template file!\") or written (\"Can't save template file!\"), or a picture\n"
+    "that cannot be made or written.\n";
 
 } // namespace
 
@@ -52,8 +65,10 @@ int main(int argc, char** argv) {
     }
     const std::string defaultData =
         lw::DataFolderForExecutable(lw::CurrentExecutablePath(argc > 0 ? argv[0] : nullptr));
-    const ToolArguments arguments =
-        ToolArguments::Parse({words.begin() + 1, words.end()}, defaultData);
+    const bool render = words[0] == "render";
+    const ToolArguments arguments = ToolArguments::Parse(
+        {words.begin() + 1, words.end()}, defaultData,
+        render ? std::set<std::string>{kLayersOption, kScaleOption} : std::set<std::string>{});
     if (!arguments.error.empty()) {
         std::cerr << "loomwright-tool: " << arguments.error << "\n" << kUsage;
         return 2;
@@ -65,6 +80,10 @@ int main(int argc, char** argv) {
         return RunCheckCommand(arguments, std::cout);
     if (words[0] == "normalize" && count == 2)
         return RunNormalizeCommand(arguments, std::cout);
+    if (render && count == 2)
+        return RunRenderCommand(arguments, kUsage);
+    if (words[0] == "reload" && count == 2)
+        return RunReloadCommand(arguments, std::cout);
 
     std::cerr << "loomwright-tool: unknown command or arguments: " << words[0] << "\n" << kUsage;
     return 2;

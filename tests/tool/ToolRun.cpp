@@ -27,3 +27,15 @@ std::string Quoted(const std::string& word) {
         quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
     return quoted + "'";
 }
+
+void ToolFolderTest::SetUp() {
+    folder = std::filesystem::temp_directory_path() /
+             ("loomwright-tool-" +
+              std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    std::filesystem::remove_all(folder);
+    std::filesystem::create_directories(folder);
+}
+
+void ToolFolderTest::TearDown() {
+    std::filesystem::remove_all(folder);
+}

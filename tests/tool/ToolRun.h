@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+#include <gtest/gtest.h>
 #include <string>
 
 // One run of loomwright-tool as a user starts it from a shell.
@@ -14,3 +16,13 @@ ToolRun RunTool(const std::string& arguments, const std::string& workingFolder =
 
 // A word quoted for the shell.
 std::string Quoted(const std::string& word);
+
+// A test with a scratch folder of its own, made empty before and removed after.
+class ToolFolderTest : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+    std::string Path(const std::string& name) const { return (folder / name).string(); }
+
+    std::filesystem::path folder;
+};

@@ -13,18 +13,8 @@ namespace {
 
 const std::string kDataOption = "--data " + Quoted(lw::test::SampleDataDir()) + " ";
 
-class ToolTemplateCommandsTest : public ::testing::Test {
+class ToolTemplateCommandsTest : public ToolFolderTest {
 protected:
-    void SetUp() override {
-        folder = fs::temp_directory_path() /
-                 ("loomwright-tool-" +
-                  std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-        fs::remove_all(folder);
-        fs::create_directories(folder);
-    }
-    void TearDown() override { fs::remove_all(folder); }
-
-    std::string Path(const std::string& name) const { return (folder / name).string(); }
     std::string Write(const std::string& name, const std::string& bytes) const {
         std::ofstream(Path(name), std::ios::binary) << bytes;
         return Path(name);
@@ -32,8 +22,6 @@ protected:
     ToolRun Normalize(const std::string& in, const std::string& out) const {
         return RunTool("normalize " + kDataOption + Quoted(in) + " " + Quoted(out));
     }
-
-    fs::path folder;
 };
 
 const char* const kBadLink = "tlink; Nowhere(done); Also(go);\r\n";

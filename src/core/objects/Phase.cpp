@@ -1,25 +1,11 @@
 #include "objects/Phase.h"
 
 #include "document/TemplateDesc.h"
+#include "objects/IdList.h"
 
 #include <algorithm>
 
 namespace lw {
-
-namespace {
-
-void AppendIfAbsent(std::vector<std::int32_t>& ids, std::int32_t id) {
-    if (std::find(ids.begin(), ids.end(), id) == ids.end())
-        ids.push_back(id);
-}
-
-void RemoveFirst(std::vector<std::int32_t>& ids, std::int32_t id) {
-    const auto found = std::find(ids.begin(), ids.end(), id);
-    if (found != ids.end())
-        ids.erase(found);
-}
-
-} // namespace
 
 bool HasPrimaryLink(std::int32_t generationType) {
     return generationType != GenerationServerSetPos && generationType != GenerationServerWaypoint &&
@@ -39,6 +25,21 @@ ScreenRect Phase::GetScreenRect(int viewX, int viewY, float scale) const {
     rect.right = rect.left - TruncateToInt(scale * -200.0);
     rect.bottom = rect.top - TruncateToInt(scale * -150.0);
     return rect;
+}
+
+void Phase::TakeGatesFrom(const BlockInfo& block) {
+    inputs.clear();
+    outputs.clear();
+    for (const std::string& gate : block.inputs)
+        inputs.push_back(GateSlot{gate, true});
+    for (const std::string& gate : block.outputs)
+        outputs.push_back(GateSlot{gate, true});
+    blockProperties = block.dynamics;
+}
+
+bool HasGate(const std::vector<GateSlot>& gates, const std::string& name) {
+    return std::any_of(gates.begin(), gates.end(),
+                       [&](const GateSlot& gate) { return gate.name == name; });
 }
 
 void Phase::MarkGateUsed(const std::string& gateName, bool isInput) {
@@ -73,16 +74,16 @@ void Phase::NextCheckPoint(std::int32_t& outX, std::int32_t& outY) const {
 }
 
 void Phase::AddCheckId(std::int32_t checkId) {
-    AppendIfAbsent(checkIds, checkId);
+    AppendIdIfAbsent(checkIds, checkId);
 }
 void Phase::AddActionId(std::int32_t actionId) {
-    AppendIfAbsent(actionIds, actionId);
+    AppendIdIfAbsent(actionIds, actionId);
 }
 void Phase::RemoveCheckId(std::int32_t checkId) {
-    RemoveFirst(checkIds, checkId);
+    RemoveFirstId(checkIds, checkId);
 }
 void Phase::RemoveActionId(std::int32_t actionId) {
-    RemoveFirst(actionIds, actionId);
+    RemoveFirstId(actionIds, actionId);
 }
 
 } // namespace lw

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalog/BlockInfo.h"
 #include "objects/EditorObject.h"
 #include "objects/Snapshot.h"
 
@@ -19,6 +20,9 @@ struct GateSlot {
 inline bool operator==(const GateSlot& a, const GateSlot& b) {
     return a.name == b.name && a.openMark == b.openMark;
 }
+
+// Whether a gate of that name is among the gates.
+bool HasGate(const std::vector<GateSlot>& gates, const std::string& name);
 
 // A canvas point in window pixels.
 struct ScreenPoint {
@@ -42,6 +46,8 @@ public:
 
     // Clears the open mark of the first gate of that name, if any.
     void MarkGateUsed(const std::string& gateName, bool isInput);
+    // Replaces the gates, all open, and the property lists by the block's.
+    void TakeGatesFrom(const BlockInfo& block);
     // Where the gate stands on the canvas: 150 units left of the box for an
     // input, right of it for an output, spread over its height in equal
     // integer steps; (0, 0) for a gate the phase does not have.

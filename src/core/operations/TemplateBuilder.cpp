@@ -25,11 +25,6 @@ void AppendTo(ObjectList* list, EditorObject* object) {
         list->push_back(object);
 }
 
-bool HasGate(const std::vector<GateSlot>& gates, const std::string& name) {
-    return std::any_of(gates.begin(), gates.end(),
-                       [&](const GateSlot& gate) { return gate.name == name; });
-}
-
 // The colours a gui helper may give a phase; anything else is the default.
 std::int32_t UsableColour(std::int32_t colorIndex) {
     return colorIndex >= 1 && colorIndex <= 6 ? colorIndex : 0;
@@ -135,12 +130,7 @@ bool TemplateBuilder::EnsureBlockInPool(const std::string& reference) {
 // The gates come from the block of the first key in byte order, which is
 // not necessarily "main".
 void TemplateBuilder::TakeGatesFromFirstBlock(Phase& phase) {
-    const BlockInfo block = blockPool_.GetBlock(phase.blocks.begin()->second);
-    for (const std::string& name : block.inputs)
-        phase.inputs.push_back(GateSlot{name, true});
-    for (const std::string& name : block.outputs)
-        phase.outputs.push_back(GateSlot{name, true});
-    phase.blockProperties = block.dynamics;
+    phase.TakeGatesFrom(blockPool_.GetBlock(phase.blocks.begin()->second));
 }
 
 // Turns the phase names at the front of geoParams into the link ids, leaving

@@ -1,0 +1,36 @@
+#include "app/Weaver.h"
+#include "operations/BlockReloader.h"
+#include "text/TextLines.h"
+
+namespace lw {
+
+void Weaver::ReloadBlocks() {
+    // No command could take the reload back, so the history goes, and the
+    // repaired document is left for the user to look over and save.
+    undoManager.ClearUndoStack();
+    undoManager.ClearRedoStack();
+    undoManager.changed = true;
+
+    // The log must be writable before anything is touched: a reload whose
+    // changes cannot be told is not made.
+    if (!files.ReplaceFile(kReloadLogPath, "")) {
+        prompts.ShowMessage("Can't open log file! Aborting!", MessageIcon::Stop);
+        return;
+    }
+
+    std::vector<std::string> log;
+    BlockReloader(*this, blockPool, log).Run(blockFolders);
+    RefreshTitle();
+    Repaint();
+
+    std::string text;
+    for (const std::string& line : log)
+        text += line + kLineEnd;
+    // As with the viewer below, a failure here is not examined: the file
+    // was writable a moment ago.
+    files.ReplaceFile(kReloadLogPath, text);
+    if (viewHost != nullptr)
+        viewHost->OpenTextFile(files.Resolve(kReloadLogPath));
+}
+
+} // namespace lw

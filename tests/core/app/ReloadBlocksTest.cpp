@@ -1,0 +1,117 @@
+#include "support/SampleEditor.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+
+using namespace lw;
+
+namespace {
+
+const std::string kAir = std::string(test::SampleEditor::kData) + "/scg/0/blocks/air/";
+const std::string kLogFile = std::string(test::SampleEditor::kData) + "/reload_blocks_log.txt";
+
+// The sample's patrol block after an edit: its output "spotted" renamed,
+// the property Altitude gone and Speed new.
+const char* const kChangedPatrol = "MCU_H_Input\n{\nName = \"start\";\n}\n"
+                                   "MCU_H_Input\n{\nName = \"abort\";\n}\n"
+                                   "MCU_H_Input\n{\nName = \"OBJECT_target\";\n}\n"
+                                   "MCU_H_Output\n{\nName = \"done\";\n}\n"
+                                   "MCU_H_Output\n{\nName = \"failed\";\n}\n"
+                                   "MCU_H_Output\n{\nName = \"sighted\";\n}\n"
+                                   "MCU_H_Output\n{\nName = \"OBJECT_plane\";\n}\n"
+                                   "MCU_H_Dynamic\n{\nName = \"PatrolLead\";\n"
+                                   "Property = \"Model\";\nProperty = \"Skin\";\n"
+                                   "Property = \"Country\";\nProperty = \"Speed\";\n}\n";
+
+class NoChange : public UR_Command {
+public:
+    using UR_Command::UR_Command;
+    void Undo() override {}
+    void Redo() override {}
+};
+
+// sample_small.mt opened, with a history to lose, and then its patrol block
+// changed and its landing block deleted on disk.
+class ReloadBlocksTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        editor.Open("scg\\sample_small.mt");
+        UndoManager& history = editor.weaver.undoManager;
+        history.undoStack.push_back(std::make_unique<NoChange>(&editor.weaver));
+        history.redoStack.push_back(std::make_unique<NoChange>(&editor.weaver));
+        editor.disk.AddFile(kAir + "patrol.group", kChangedPatrol);
+        editor.disk.Remove(kAir + "landing.group");
+    }
+
+    void ExpectHistoryGoneAndChanged() const {
+        const UndoManager& history = editor.weaver.undoManager;
+        EXPECT_TRUE(history.undoStack.empty());
+        EXPECT_TRUE(history.redoStack.empty());
+        EXPECT_TRUE(history.changed);
+    }
+
+    test::SampleEditor editor;
+};
+
+} // namespace
+
+TEST_F(ReloadBlocksTest, RepairsTheDocumentAndOpensTheLog) {
+    Weaver& weaver = editor.weaver;
+    weaver.ReloadBlocks();
+
+    EXPECT_EQ(editor.DataFileText(Weaver::kReloadLogPath),
+              "# Loomwright Reload Blocks \"on the fly\" log file\r\n"
+              "\r\n"
+              "OK: default blocks reloaded\r\n"
+              "\r\n"
+              "Reloading all phases blocks if they are not in default blocks pool.\r\n"
+              "ERROR: can't load block \"main\" from group file "
+              "\"scg\\0\\blocks\\air\\landing.group\" PHASE: ReturnHome\r\n"
+              "Finished reloading phases blocks which are not in default blocks pool.\r\n"
+              "\r\n"
+              "Update phases inputs and outputs.\r\n"
+              "ERROR: PHASE: ReturnHome has no blocks!\r\n"
+              "Finished updating phases inputs and outputs.\r\n"
+              "\r\n"
+              "Update phases actions.\r\n"
+              "ADDED: Action Speed:PatrolLead to PHASE: PatrolStart\r\n"
+              "REMOVED: Action: Altitude:PatrolLead from PHASE: PatrolStart\r\n"
+              "Finished updating phases actions.\r\n"
+              "\r\n"
+              "Update links.\r\n"
+              "REMOVED: Link: From Phase: PatrolStart To Phase: Contact because FROM phase "
+              "doesn't have connection: spotted\r\n"
+              "REMOVED: Link: From Phase: PatrolStart To Phase: ReturnHome because TO phase "
+              "doesn't have connection: OBJECT_plane\r\n"
+              "REMOVED: Link: From Phase: Contact To Phase: ReturnHome because TO phase "
+              "doesn't have connection: done\r\n"
+              "REMOVED: Link: From Phase: Sighting To Phase: ReturnHome because TO phase "
+              "doesn't have connection: failed\r\n"
+              "Finished updating links.\r\n"
+              "\r\n");
+    EXPECT_EQ(editor.host.openedFiles, std::vector<std::string>{kLogFile});
+
+    // A phase left without blocks stays.
+    EXPECT_NE(weaver.FindPhaseByName("ReturnHome"), nullptr);
+
+    ExpectHistoryGoneAndChanged();
+    EXPECT_EQ(editor.host.title, "Loomwright - scg\\sample_small.mt*");
+    EXPECT_TRUE(editor.prompts.Log().empty());
+}
+
+TEST_F(ReloadBlocksTest, ALogThatCannotBeCreatedStopsBeforeAnythingIsTouched) {
+    Weaver& weaver = editor.weaver;
+    weaver.undoManager.changed = false;
+    const std::string before = editor.SavedText();
+    editor.disk.FailNextReplace();
+
+    weaver.ReloadBlocks();
+
+    ASSERT_EQ(editor.prompts.Log().size(), 1u);
+    EXPECT_EQ(editor.prompts.Log()[0].text, "Can't open log file! Aborting!");
+    EXPECT_EQ(editor.prompts.Log()[0].icon, MessageIcon::Stop);
+    EXPECT_EQ(editor.SavedText(), before);
+    EXPECT_TRUE(weaver.blockPool.Contains("scg\\0\\blocks\\air\\landing.group"));
+    EXPECT_TRUE(editor.host.openedFiles.empty());
+    ExpectHistoryGoneAndChanged();
+}
