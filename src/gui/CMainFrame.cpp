@@ -13,7 +13,7 @@
 
 CMainFrame::CMainFrame(QWidget* parent)
     : QMainWindow(parent), weaver_(prompts_, optionsStore_, fileSystem_),
-      fileCommands_(weaver_, fileDialogs_) {
+      fileCommands_(weaver_, fileDialogs_), editCommands_(weaver_, fileCommands_) {
     // Until the first refresh of the title the caption is the program's name alone.
     setWindowTitle(lw::kApplicationName);
     prompts_.SetParent(this);
@@ -24,6 +24,7 @@ bool CMainFrame::OnCreate(const std::string& dataFolder) {
     view_.setParent(this);
     setCentralWidget(&view_);
     CreateFileMenu();
+    CreateEditMenu();
     resize(1024, 768);
     weaver_.SetViewHost(this);
     weaver_.SetView(&view_);
@@ -44,6 +45,24 @@ void CMainFrame::CreateFileMenu() {
     menu->addAction(tr("Save As"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
                     [this] { fileCommands_.SaveAs(); });
     menu->addAction(tr("E&xit"), [this] { close(); });
+}
+
+void CMainFrame::CreateEditMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
+    menu->addAction(tr("&Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z),
+                    [this] { editCommands_.Undo(); });
+    menu->addAction(tr("&Redo"), QKeySequence(Qt::CTRL | Qt::Key_Y),
+                    [this] { editCommands_.Redo(); });
+    menu->addSeparator();
+    menu->addAction(tr("Cu&t"), QKeySequence(Qt::CTRL | Qt::Key_X),
+                    [this] { editCommands_.Cut(); });
+    menu->addAction(tr("&Copy"), QKeySequence(Qt::CTRL | Qt::Key_C),
+                    [this] { editCommands_.Copy(); });
+    menu->addAction(tr("&Paste"), [this] { editCommands_.Paste(); });
+    menu->addSeparator();
+    menu->addAction(tr("Reload Blocks \"on the fly\""), [this] { editCommands_.ReloadBlocks(); });
+    menu->addAction(tr("Save Selection to file"), [this] { editCommands_.SaveSelection(); });
+    menu->addAction(tr("Import From File"), [this] { editCommands_.ImportFromFile(); });
 }
 
 void CMainFrame::SetTitle(const std::string& title) {

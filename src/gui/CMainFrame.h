@@ -5,6 +5,7 @@
 #include "QtFileSystem.h"
 #include "QtOptionsStore.h"
 #include "QtPrompts.h"
+#include "app/EditMenuCommands.h"
 #include "app/FileCommands.h"
 #include "app/Weaver.h"
 #include "platform/ViewHost.h"
@@ -25,6 +26,7 @@ public:
 
     lw::Weaver& weaver() { return weaver_; }
     lw::FileCommands& fileCommands() { return fileCommands_; }
+    lw::EditMenuCommands& editCommands() { return editCommands_; }
     CChildView& view() { return view_; }
 
     void SetTitle(const std::string& title) override;
@@ -37,6 +39,7 @@ protected:
 
 private:
     void CreateFileMenu();
+    void CreateEditMenu();
 
     QtPrompts prompts_;
     QtFileDialogs fileDialogs_;
@@ -45,4 +48,5 @@ private:
     CChildView view_;
     lw::Weaver weaver_;
     lw::FileCommands fileCommands_;
+    lw::EditMenuCommands editCommands_;
 };

@@ -4,6 +4,7 @@
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>
+#include <iterator>
 
 namespace lw::test {
 
@@ -28,6 +29,26 @@ std::string SampleEditor::SavedText() const {
     TemplateDesc desc;
     weaver.ExportToDesc(desc);
     return TemplateDescText(desc);
+}
+
+std::string SampleEditor::DataFileText(const std::string& path) const {
+    auto stream = weaver.files.OpenForReading(path);
+    return stream ? std::string(std::istreambuf_iterator<char>(*stream), {}) : "<missing>";
+}
+
+void SampleEditor::Select(const std::string& name) {
+    for (const auto& object : weaver.objects) {
+        const EditorObject* named = object.get();
+        const bool match = (As<Phase>(named) && As<Phase>(named)->name == name) ||
+                           (As<Case>(named) && As<Case>(named)->name == name) ||
+                           (As<Switch>(named) && As<Switch>(named)->name == name);
+        if (match) {
+            weaver.selection.Add(object.get());
+            weaver.selection.Recalculate();
+            return;
+        }
+    }
+    ADD_FAILURE() << "no object named " << name;
 }
 
 } // namespace lw::test

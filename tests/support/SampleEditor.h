@@ -26,6 +26,11 @@ public:
     void Open(const std::string& path);
     // The template text that Save would write now.
     std::string SavedText() const;
+    // The bytes of a file of the data folder, named as the program names it
+    // ("scg\\clipboard.mt"); "<missing>" when there is none.
+    std::string DataFileText(const std::string& path) const;
+    // Adds the phase, case or switch of that name to the selection.
+    void Select(const std::string& name);
 
     MemoryFileSystem disk;
     MemoryOptionsStore store;

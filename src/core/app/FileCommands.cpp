@@ -13,12 +13,12 @@ const char* const kSaveQuestion = "Template has been changed. Do you want to sav
 const char* const kCloseQuestion =
     "Template file has been changed, do you want to save your changes?";
 
-FileRequest TemplateRequest(const std::string& fileName, const std::string& subFolder) {
-    return FileRequest{fileName, FileCommands::kTemplateFilter, subFolder,
-                       FileCommands::kTemplateExtension};
-}
-
 } // namespace
+
+FileRequest FileCommands::TemplateRequest(const std::string& fileName,
+                                          const std::string& subFolder) {
+    return FileRequest{fileName, kTemplateFilter, subFolder, kTemplateExtension};
+}
 
 bool FileCommands::AskToSaveChanges(const char* question) {
     if (!weaver_.undoManager.changed)

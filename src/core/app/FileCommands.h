@@ -14,6 +14,9 @@ public:
     static constexpr const char* kTemplateFilter = "Mission Template Files (*.mt)|*.mt||";
     static constexpr const char* kTemplateExtension = "*.mt";
 
+    // A request for a template file, offered in the data folder or a folder below it.
+    static FileRequest TemplateRequest(const std::string& fileName, const std::string& subFolder);
+
     FileCommands(Weaver& weaver, FileDialogs& dialogs) : weaver_(weaver), dialogs_(dialogs) {}
 
     void New();

@@ -81,6 +81,10 @@ public:
     void SetViewHost(ViewHost* host) { viewHost = host; }
     // The canvas whose offset and scale the selection's bounds follow.
     void SetView(const ViewTransform* canvasView) { selection.view = canvasView; }
+    // The canvas's offset and scale now; the plain view before there is a canvas.
+    ViewTransform CurrentView() const {
+        return selection.view != nullptr ? *selection.view : ViewTransform{};
+    }
 
     // The seams, in the order they must be built.
     UserPrompts& prompts;

@@ -43,6 +43,11 @@ const Case* TemplateExporter::ResolveCase(std::int32_t id) const {
     return store.FindCase(id);
 }
 
+std::string TemplateExporter::LinkedPhaseName(std::int32_t id) const {
+    const Phase* linked = ResolvePhase(id);
+    return linked != nullptr ? linked->name : std::string(kNoLinkedPhase);
+}
+
 GuiHelperDesc& TemplateExporter::AddGuiHelper(const EditorObject& object,
                                               const std::string& objectName) {
     GuiHelperDesc& helper = desc.guiHelpers.emplace_back();
@@ -65,14 +70,11 @@ void TemplateExporter::ExportPhase(const Phase& phase) {
     record.allocationType = phase.allocationType;
     record.blocksFolder = phase.blocksFolder;
     // The linked phases lead the geometry parameters.
-    const auto linkedName = [this](std::int32_t id) {
-        const Phase* linked = ResolvePhase(id);
-        return linked != nullptr ? linked->name : std::string(kNoLinkedPhase);
-    };
     if (HasPrimaryLink(phase.generationType))
-        record.geoParams.insert(record.geoParams.begin(), linkedName(phase.primaryLinkId));
+        record.geoParams.insert(record.geoParams.begin(), LinkedPhaseName(phase.primaryLinkId));
     if (HasSecondaryLink(phase.generationType))
-        record.geoParams.insert(record.geoParams.begin() + 1, linkedName(phase.secondaryLinkId));
+        record.geoParams.insert(record.geoParams.begin() + 1,
+                                LinkedPhaseName(phase.secondaryLinkId));
     desc.phases.push_back(std::move(record));
 
     AddGuiHelper(phase, phase.name).colorIndex = phase.GetColorIndex();

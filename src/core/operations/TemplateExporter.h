@@ -35,6 +35,8 @@ protected:
     // an object of another kind.
     virtual const Phase* ResolvePhase(std::int32_t id) const;
     virtual const Case* ResolveCase(std::int32_t id) const;
+    // The word a phase's geometry parameters hold for its linked phase.
+    virtual std::string LinkedPhaseName(std::int32_t id) const;
 
     const ObjectStore& store;
     TemplateDesc& desc;

@@ -24,6 +24,10 @@ public:
     // Takes a command whose change has already been made. A null command still
     // marks the document as changed.
     void Push(std::unique_ptr<UR_Command> command);
+    // Undoes the newest command and moves it to the redo stack; RedoNewest
+    // is the mirror. Nothing happens on an empty stack.
+    void UndoNewest();
+    void RedoNewest();
     void ClearUndoStack();
     void ClearRedoStack();
     // Forgets the whole history of the document, as a new or newly read one has none.

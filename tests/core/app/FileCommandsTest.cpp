@@ -5,9 +5,9 @@
 #include "platform/MemoryOptionsStore.h"
 #include "platform/RecordingPrompts.h"
 #include "support/RecordingViewHost.h"
+#include "support/ScriptedFileDialogs.h"
 #include "support/TestFiles.h"
 
-#include <deque>
 #include <gtest/gtest.h>
 
 using namespace lw;
@@ -16,34 +16,6 @@ namespace {
 
 const std::string kData = "/Sim/Data";
 const std::string kSmall = "scg\\sample_small.mt";
-
-// File dialogs that answer from a script: a path, or cancel when empty.
-class ScriptedDialogs : public FileDialogs {
-public:
-    bool ShowOpenDialog(const std::string& startFolder, const FileRequest& request,
-                        std::string& chosenPath) override {
-        return Answer(startFolder, request, chosenPath);
-    }
-    bool ShowSaveDialog(const std::string& startFolder, const FileRequest& request,
-                        std::string& chosenPath) override {
-        return Answer(startFolder, request, chosenPath);
-    }
-
-    std::deque<std::string> answers;
-    std::vector<std::string> startFolders;
-    std::vector<FileRequest> requests;
-
-private:
-    bool Answer(const std::string& startFolder, const FileRequest& request, std::string& chosen) {
-        startFolders.push_back(startFolder);
-        requests.push_back(request);
-        if (answers.empty())
-            return false;
-        chosen = answers.front();
-        answers.pop_front();
-        return !chosen.empty();
-    }
-};
 
 class FileCommandsTest : public ::testing::Test {
 protected:
@@ -70,7 +42,7 @@ protected:
     RecordingPrompts prompts;
     test::RecordingViewHost host;
     Weaver weaver{prompts, store, disk};
-    ScriptedDialogs dialogs;
+    test::ScriptedFileDialogs dialogs;
     FileCommands commands{weaver, dialogs};
 };
 

@@ -18,8 +18,10 @@ public:
     LoggingCommand(int number, std::vector<int>& destroyed)
         : UR_Command(nullptr), number_(number), destroyed_(destroyed) {}
     ~LoggingCommand() override { destroyed_.push_back(number_); }
-    void Undo() override {}
-    void Redo() override {}
+    void Undo() override { ++undone; }
+    void Redo() override { ++redone; }
+    int undone = 0;
+    int redone = 0;
 
 private:
     int number_;
@@ -82,4 +84,36 @@ TEST_F(UndoManagerTest, TitleShowsTheFileAndTheChangedMark) {
     weaver.fileName = "scg\\x.mt";
     history.changed = true;
     EXPECT_EQ(weaver.Title(), "Loomwright - scg\\x.mt*");
+}
+
+TEST_F(UndoManagerTest, UndoAndRedoMoveTheNewestAcrossAndMarkTheDocument) {
+    test::RecordingViewHost host;
+    weaver.SetViewHost(&host);
+    for (int i = 1; i <= 100; ++i)
+        history.Push(Command(i));
+    auto* newest = static_cast<LoggingCommand*>(history.undoStack.back().get());
+    // As after a save: undoing back to the saved state still counts as a change.
+    history.changed = false;
+    weaver.Undo();
+    EXPECT_EQ(newest->undone, 1);
+    EXPECT_TRUE(history.changed);
+    EXPECT_EQ(host.title.back(), '*');
+    ASSERT_EQ(history.redoStack.size(), 1u);
+    EXPECT_EQ(history.redoStack.back().get(), newest);
+
+    // A push ends the redo branch; a redo takes the newest undone command back.
+    history.Push(Command(101));
+    EXPECT_EQ(destroyed, std::vector<int>{100});
+    weaver.Undo();
+    weaver.Redo();
+    EXPECT_EQ(history.undoStack.size(), 100u);
+    EXPECT_TRUE(history.redoStack.empty());
+
+    // Nothing to undo: only the repaint.
+    history.ClearUndoStack();
+    history.changed = false;
+    const int repaints = host.repaints;
+    weaver.Undo();
+    EXPECT_FALSE(history.changed);
+    EXPECT_EQ(host.repaints, repaints + 1);
 }

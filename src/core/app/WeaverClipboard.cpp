@@ -1,0 +1,55 @@
+#include "app/Weaver.h"
+#include "document/TemplateReader.h"
+#include "document/TemplateWriter.h"
+#include "objects/ScreenRect.h"
+#include "operations/SelectionExporter.h"
+#include "undo/UR_ImportTemplateDesc.h"
+
+namespace lw {
+
+void Weaver::ExportSelection(const std::string& path) {
+    if (selection.members.empty()) {
+        prompts.ShowMessage("Empty Selection!", MessageIcon::Stop);
+        return;
+    }
+    // The file is emptied first, so that a copy of nothing usable leaves an
+    // empty clipboard rather than the previous one.
+    if (!files.ReplaceFile(path, "")) {
+        prompts.ShowMessage("Can't open file!", MessageIcon::Stop);
+        return;
+    }
+    TemplateDesc desc;
+    SelectionExporter(*this, desc).ExportMembers();
+    if (desc.phases.empty() && desc.cases.empty() && desc.switches.empty()) {
+        prompts.ShowMessage("Nothing to export. Select at least one phase, case or switch.",
+                            MessageIcon::Stop);
+        return;
+    }
+    if (!files.ReplaceFile(path, TemplateDescText(desc)))
+        prompts.ShowMessage("Can't open file!", MessageIcon::Stop);
+}
+
+void Weaver::PlaceTemplate(const std::string& path, int x, int y, int viewX, int viewY,
+                           float scale) {
+    interactionState = StateIdle;
+    currentCursor = CanvasCursor::Arrow;
+    // The inverse of the canvas transform, in the same 32-bit float steps.
+    const std::int32_t targetX =
+        TruncateToInt(static_cast<float>(x) / scale - static_cast<float>(viewX));
+    const std::int32_t targetY =
+        TruncateToInt(static_cast<float>(y) / scale - static_cast<float>(viewY));
+    if (auto stream = files.OpenForReading(path)) {
+        TemplateDesc desc;
+        ReadTemplateDesc(desc, *stream);
+        auto command =
+            std::make_unique<UR_ImportTemplateDesc>(this, std::move(desc), targetX, targetY);
+        command->Run(true);
+        undoManager.Push(std::move(command));
+    } else {
+        prompts.ShowMessage("Can't open template file!", MessageIcon::Stop);
+    }
+    RefreshTitle();
+    Repaint();
+}
+
+} // namespace lw

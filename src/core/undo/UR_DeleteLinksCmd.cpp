@@ -1,0 +1,18 @@
+#include "undo/UR_DeleteLinksCmd.h"
+
+#include "app/Weaver.h"
+
+namespace lw {
+
+void UR_DeleteLinksCmd::Undo() {
+    editor->links.insert(editor->links.end(), links.begin(), links.end());
+    editor->RefreshGateMarks();
+}
+
+void UR_DeleteLinksCmd::Redo() {
+    for (const Link& link : links)
+        editor->RemoveLink(link);
+    editor->RefreshGateMarks();
+}
+
+} // namespace lw
