@@ -1,6 +1,5 @@
 #include "CChildView.h"
 
-#include "CMainFrame.h"
 #include "CanvasImage.h"
 
 #include <QPainter>
@@ -11,12 +10,10 @@ CChildView::CChildView(QWidget* parent) : QWidget(parent) {
 }
 
 void CChildView::paintEvent(QPaintEvent*) {
-    // The document lives in the main window; a canvas outside one shows nothing.
-    auto* frame = qobject_cast<CMainFrame*>(window());
-    if (frame == nullptr)
+    if (weaver_ == nullptr)
         return;
     // The whole canvas is painted into an image first and then shown at once,
     // so that a repaint never shows a scene half drawn.
-    const QImage image = lw::PaintCanvasImage(frame->weaver(), *this, viewFont, size());
+    const QImage image = lw::PaintCanvasImage(*weaver_, *this, viewFont, size());
     QPainter(this).drawImage(0, 0, image);
 }

@@ -28,6 +28,7 @@ bool CMainFrame::OnCreate(const std::string& dataFolder) {
     resize(1024, 768);
     weaver_.SetViewHost(this);
     weaver_.SetView(&view_);
+    view_.SetWeaver(&weaver_);
 
     const QString program = QCoreApplication::applicationFilePath();
     weaver_.StartUp(dataFolder.empty() ? lw::DataFolderForExecutable(PathToStdString(program))

@@ -54,10 +54,12 @@ UR_DeleteObjectsCmd::UR_DeleteObjectsCmd(Weaver* editor, ObjectsGroup& group) : 
         Take(*member, membership);
     // Nothing is removed before every member has had its turn, so that the
     // membership tests and lookups above all see the document as it was.
+    // The selection is emptied first: it ends empty either way, and a large
+    // one need not be searched and measured again for every removal.
+    group.Clear();
     for (EditorObject* object : doomed)
         editor->RemoveObject(object);
     doomed.clear();
-    group.Clear();
     editor->RefreshGateMarks();
 }
 
