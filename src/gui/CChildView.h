@@ -1,6 +1,7 @@
 #pragma once
 
 #include "canvas/CanvasFont.h"
+#include "canvas/InteractionState.h"
 #include "objects/ViewTransform.h"
 
 namespace lw {
@@ -18,15 +19,22 @@ class CChildView : public QWidget, public lw::ViewTransform {
 public:
     explicit CChildView(QWidget* parent = nullptr);
 
-    // The document to show; without one the canvas stays as it is.
-    void SetWeaver(const lw::Weaver* shown) { weaver_ = shown; }
+    // The document to show and to hand the pointer to; without one the
+    // canvas stays as it is.
+    void SetWeaver(lw::Weaver* shown) { weaver_ = shown; }
+    void ShowCursor(lw::CanvasCursor cursor);
 
     // 12 pixels until the first zoom replaces it.
     lw::CanvasFont viewFont = lw::CanvasFontAt(1.0f, false);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    // Until the whole gesture machine is here, the pointer only tracks its
+    // position and places a pasted or imported template with a click.
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    const lw::Weaver* weaver_ = nullptr;
+    lw::Weaver* weaver_ = nullptr;
 };

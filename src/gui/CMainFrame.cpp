@@ -60,6 +60,12 @@ void CMainFrame::CreateEditMenu() {
     menu->addAction(tr("&Copy"), QKeySequence(Qt::CTRL | Qt::Key_C),
                     [this] { editCommands_.Copy(); });
     menu->addAction(tr("&Paste"), [this] { editCommands_.Paste(); });
+    // Ctrl+V places the clipboard at the pointer at once, while the menu's
+    // Paste waits for a click.
+    auto* pasteAtPointer = new QAction(this);
+    pasteAtPointer->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_V));
+    connect(pasteAtPointer, &QAction::triggered, this, [this] { editCommands_.PasteAtPointer(); });
+    addAction(pasteAtPointer);
     menu->addSeparator();
     menu->addAction(tr("Reload Blocks \"on the fly\""), [this] { editCommands_.ReloadBlocks(); });
     menu->addAction(tr("Save Selection to file"), [this] { editCommands_.SaveSelection(); });
@@ -72,6 +78,10 @@ void CMainFrame::SetTitle(const std::string& title) {
 
 void CMainFrame::Repaint() {
     view_.update();
+}
+
+void CMainFrame::ShowCursor(lw::CanvasCursor cursor) {
+    view_.ShowCursor(cursor);
 }
 
 void CMainFrame::OpenTextFile(const std::string& path) {

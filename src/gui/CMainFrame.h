@@ -31,6 +31,7 @@ public:
 
     void SetTitle(const std::string& title) override;
     void Repaint() override;
+    void ShowCursor(lw::CanvasCursor cursor) override;
     void OpenTextFile(const std::string& path) override;
 
 protected:

@@ -15,11 +15,13 @@ public:
         titles.push_back(text);
     }
     void Repaint() override { ++repaints; }
+    void ShowCursor(CanvasCursor shown) override { cursor = shown; }
     void OpenTextFile(const std::string& path) override { openedFiles.push_back(path); }
 
     std::string title;
     std::vector<std::string> titles;
     int repaints = 0;
+    CanvasCursor cursor = CanvasCursor::Arrow;
     std::vector<std::string> openedFiles;
 };
 

@@ -69,7 +69,7 @@ void EditMenuCommands::ImportFromFile() {
 void EditMenuCommands::WaitToPlace(const std::string& path) {
     weaver_.pendingImportPath = path;
     weaver_.interactionState = StatePlaceTemplate;
-    weaver_.currentCursor = CanvasCursor::Place;
+    weaver_.SetCursor(CanvasCursor::Place);
 }
 
 void EditMenuCommands::ReloadBlocks() {

@@ -32,6 +32,12 @@ void Weaver::RefreshTitle() {
         viewHost->SetTitle(Title());
 }
 
+void Weaver::SetCursor(CanvasCursor cursor) {
+    currentCursor = cursor;
+    if (viewHost != nullptr)
+        viewHost->ShowCursor(cursor);
+}
+
 void Weaver::Repaint() {
     if (viewHost != nullptr)
         viewHost->Repaint();

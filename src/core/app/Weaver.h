@@ -79,6 +79,8 @@ public:
     void PaintScene(DrawingSurface& dc, int viewX, int viewY, float scale) const;
 
     void SetViewHost(ViewHost* host) { viewHost = host; }
+    // Sets `currentCursor` and shows it.
+    void SetCursor(CanvasCursor cursor);
     // The canvas whose offset and scale the selection's bounds follow.
     void SetView(const ViewTransform* canvasView) { selection.view = canvasView; }
     // The canvas's offset and scale now; the plain view before there is a canvas.

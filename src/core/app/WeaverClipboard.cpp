@@ -32,7 +32,7 @@ void Weaver::ExportSelection(const std::string& path) {
 void Weaver::PlaceTemplate(const std::string& path, int x, int y, int viewX, int viewY,
                            float scale) {
     interactionState = StateIdle;
-    currentCursor = CanvasCursor::Arrow;
+    SetCursor(CanvasCursor::Arrow);
     // The inverse of the canvas transform, in the same 32-bit float steps.
     const std::int32_t targetX =
         TruncateToInt(static_cast<float>(x) / scale - static_cast<float>(viewX));
