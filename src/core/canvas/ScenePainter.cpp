@@ -99,18 +99,15 @@ void ScenePainter::PaintScene() const {
 }
 
 void ScenePainter::PaintPhases() const {
-    for (const auto& object : store_.objects) {
-        const Phase* phase = As<Phase>(object.get());
-        if (phase == nullptr)
-            continue;
-        PaintPhaseBox(*phase);
+    store_.ForEach<Phase>([&](const Phase& phase) {
+        PaintPhaseBox(phase);
         if (options_.DrawInputOutputs) {
-            PaintGates(*phase, true);
-            PaintGates(*phase, false);
+            PaintGates(phase, true);
+            PaintGates(phase, false);
         }
         if (options_.DrawGeometry)
-            PaintGeometry(*phase);
-    }
+            PaintGeometry(phase);
+    });
     if (options_.DrawGeometry)
         PaintPickedGeometryLink();
 }
@@ -226,39 +223,33 @@ void ScenePainter::PaintLinks() const {
 void ScenePainter::PaintCases() const {
     if (!options_.DrawSwitchAndCases)
         return;
-    for (const auto& object : store_.objects) {
-        const Case* item = As<Case>(object.get());
-        if (item == nullptr)
-            continue;
+    store_.ForEach<Case>([&](const Case& item) {
         dc_.SelectPen(kThinBlackPen);
-        SelectFill(*item);
-        dc_.Ellipse(item->GetScreenRect(view_.viewX, view_.viewY, view_.scale));
+        SelectFill(item);
+        dc_.Ellipse(item.GetScreenRect(view_.viewX, view_.viewY, view_.scale));
         dc_.SelectPen(kThinBluePen);
-        for (std::int32_t phaseId : item->phaseIds)
-            dc_.Line(Anchor(*item), ConnectionPoint(store_.FindPhase(phaseId)));
-    }
+        for (std::int32_t phaseId : item.phaseIds)
+            dc_.Line(Anchor(item), ConnectionPoint(store_.FindPhase(phaseId)));
+    });
 }
 
 void ScenePainter::PaintSwitches() const {
     if (!options_.DrawSwitchAndCases)
         return;
-    for (const auto& object : store_.objects) {
-        const Switch* item = As<Switch>(object.get());
-        if (item == nullptr)
-            continue;
-        const ScreenRect r = item->GetScreenRect(view_.viewX, view_.viewY, view_.scale);
+    store_.ForEach<Switch>([&](const Switch& item) {
+        const ScreenRect r = item.GetScreenRect(view_.viewX, view_.viewY, view_.scale);
         dc_.SelectPen(kThinRedPen);
-        SelectFill(*item);
+        SelectFill(item);
         dc_.Ellipse(r);
-        for (std::int32_t caseId : item->caseIds) {
+        for (std::int32_t caseId : item.caseIds) {
             if (const Case* target = store_.FindCase(caseId))
-                dc_.Line(Anchor(*item), Anchor(*target));
+                dc_.Line(Anchor(item), Anchor(*target));
         }
         dc_.SelectPen(kThinBlackPen);
         const std::string count =
-            std::to_string(item->number) + " of " + std::to_string(item->caseIds.size());
+            std::to_string(item.number) + " of " + std::to_string(item.caseIds.size());
         dc_.DrawText(count, r, TextCentre | TextVerticalCentre | TextSingleLine | TextNoClip);
-    }
+    });
 }
 
 // The check's type starts right of the box's left edge and runs out of it.
@@ -267,58 +258,49 @@ void ScenePainter::PaintChecks() const {
         return;
     const std::int32_t corner = TruncateToInt(view_.scale * 15.0f);
     const std::int32_t textShift = TruncateToInt(view_.scale * 32.0f);
-    for (const auto& object : store_.objects) {
-        const Check* check = As<Check>(object.get());
-        if (check == nullptr)
-            continue;
-        const ScreenRect r = check->GetScreenRect(view_.viewX, view_.viewY, view_.scale);
+    store_.ForEach<Check>([&](const Check& check) {
+        const ScreenRect r = check.GetScreenRect(view_.viewX, view_.viewY, view_.scale);
         dc_.SelectPen(kThinBlackPen);
-        SelectFill(*check);
+        SelectFill(check);
         dc_.RoundRect(r, corner, corner);
         dc_.SelectPen(kThinGreenPen);
-        dc_.Line(Anchor(*check), ConnectionPoint(store_.FindPhase(check->phaseId)));
+        dc_.Line(Anchor(check), ConnectionPoint(store_.FindPhase(check.phaseId)));
         const ScreenRect textRect{r.left + textShift, r.top, r.right + textShift, r.bottom};
-        dc_.DrawText(checkTypeToKeyword(static_cast<CheckType>(check->type)), textRect,
+        dc_.DrawText(checkTypeToKeyword(static_cast<CheckType>(check.type)), textRect,
                      TextVerticalCentre | TextSingleLine | TextNoClip);
-    }
+    });
 }
 
 void ScenePainter::PaintActions() const {
     if (!options_.DrawActions)
         return;
     const std::int32_t corner = TruncateToInt(view_.scale * 15.0f);
-    for (const auto& object : store_.objects) {
-        const Action* action = As<Action>(object.get());
-        if (action == nullptr)
-            continue;
-        const ScreenRect r = action->GetScreenRect(view_.viewX, view_.viewY, view_.scale);
+    store_.ForEach<Action>([&](const Action& action) {
+        const ScreenRect r = action.GetScreenRect(view_.viewX, view_.viewY, view_.scale);
         dc_.SelectPen(kThinBlackPen);
-        SelectFill(*action);
+        SelectFill(action);
         dc_.RoundRect(r, corner, corner);
         dc_.SelectPen(kThinGreenPen);
-        dc_.Line(Anchor(*action), ConnectionPoint(store_.FindPhase(action->phaseId)));
-        const std::string owner = action->objectName.empty() ? "*" : action->objectName;
-        dc_.DrawText(owner + ":" + action->name, r,
+        dc_.Line(Anchor(action), ConnectionPoint(store_.FindPhase(action.phaseId)));
+        const std::string owner = action.objectName.empty() ? "*" : action.objectName;
+        dc_.DrawText(owner + ":" + action.name, r,
                      TextCentre | TextVerticalCentre | TextSingleLine | TextNoClip);
-    }
+    });
 }
 
 // Unlinkers have no option of their own: they come and go with the actions.
 void ScenePainter::PaintUnlinkers() const {
     if (!options_.DrawActions)
         return;
-    for (const auto& object : store_.objects) {
-        const Unlinker* unlinker = As<Unlinker>(object.get());
-        if (unlinker == nullptr)
-            continue;
-        const ScreenRect r = unlinker->GetScreenRect(view_.viewX, view_.viewY, view_.scale);
+    store_.ForEach<Unlinker>([&](const Unlinker& unlinker) {
+        const ScreenRect r = unlinker.GetScreenRect(view_.viewX, view_.viewY, view_.scale);
         dc_.SelectPen(kThinBlackPen);
-        SelectFill(*unlinker);
+        SelectFill(unlinker);
         dc_.Rectangle(r);
         dc_.Line({r.left, r.bottom}, {r.right, r.top});
         dc_.Line({r.left, r.top}, {r.right, r.bottom});
-        dc_.Line(Anchor(*unlinker), ConnectionPoint(store_.FindPhase(unlinker->phaseId)));
-    }
+        dc_.Line(Anchor(unlinker), ConnectionPoint(store_.FindPhase(unlinker.phaseId)));
+    });
 }
 
 void ScenePainter::PaintGestureLine() const {

@@ -61,10 +61,7 @@ void BlockReloader::Run(const std::vector<std::string>& blockFolders) {
 
 std::vector<Phase*> BlockReloader::Phases() const {
     std::vector<Phase*> phases;
-    for (const auto& object : store_.objects) {
-        if (Phase* phase = As<Phase>(object.get()))
-            phases.push_back(phase);
-    }
+    store_.ForEach<Phase>([&](Phase& phase) { phases.push_back(&phase); });
     return phases;
 }
 

@@ -32,6 +32,14 @@ public:
     ObjectStore& operator=(const ObjectStore&) = delete;
     virtual ~ObjectStore() = default;
 
+    // Calls `visit` with every object of kind T, in list order.
+    template <typename T, typename Visit> void ForEach(Visit visit) const {
+        for (const auto& object : objects) {
+            if (T* typed = As<T>(object.get()))
+                visit(*typed);
+        }
+    }
+
     // Lookups: names compare exactly, and the first hit in list order wins.
     EditorObject* FindObject(std::int32_t id) const;
     Phase* FindPhase(std::int32_t id) const { return As<Phase>(FindObject(id)); }

@@ -24,15 +24,6 @@ std::vector<std::string> NamesOf(const std::vector<std::int32_t>& ids, Resolve r
     return names;
 }
 
-template <typename T>
-void ExportEach(const ObjectStore& store, TemplateExporter& exporter,
-                void (TemplateExporter::*exportOne)(const T&)) {
-    for (const auto& object : store.objects) {
-        if (const T* typed = As<T>(object.get()))
-            (exporter.*exportOne)(*typed);
-    }
-}
-
 } // namespace
 
 const Phase* TemplateExporter::ResolvePhase(std::int32_t id) const {
@@ -172,14 +163,14 @@ void TemplateExporter::ExportUnlinker(const Unlinker& unlinker) {
 
 void ExportToDesc(const ObjectStore& store, TemplateDesc& desc) {
     TemplateExporter exporter(store, desc);
-    ExportEach(store, exporter, &TemplateExporter::ExportPhase);
-    ExportEach(store, exporter, &TemplateExporter::ExportCase);
-    ExportEach(store, exporter, &TemplateExporter::ExportSwitch);
+    store.ForEach<Phase>([&](const Phase& phase) { exporter.ExportPhase(phase); });
+    store.ForEach<Case>([&](const Case& object) { exporter.ExportCase(object); });
+    store.ForEach<Switch>([&](const Switch& object) { exporter.ExportSwitch(object); });
     for (const Link& link : store.links)
         exporter.ExportLink(link);
-    ExportEach(store, exporter, &TemplateExporter::ExportCheck);
-    ExportEach(store, exporter, &TemplateExporter::ExportAction);
-    ExportEach(store, exporter, &TemplateExporter::ExportUnlinker);
+    store.ForEach<Check>([&](const Check& check) { exporter.ExportCheck(check); });
+    store.ForEach<Action>([&](const Action& action) { exporter.ExportAction(action); });
+    store.ForEach<Unlinker>([&](const Unlinker& unlinker) { exporter.ExportUnlinker(unlinker); });
 }
 
 } // namespace lw
