@@ -2,16 +2,22 @@
 
 #include "ToolSession.h"
 #include "operations/BlockReloader.h"
+#include "platform/NativeFileSystem.h"
+
+#include <iostream>
 
 namespace {
 
-// Loads IN as the editor opens it, lets `change` work on the document, and
-// writes OUT as the editor saves it. The messages shown until then are
-// printed first, then the lines `change` returns, then the save's message.
-template <typename Change>
-int RewriteTemplate(const ToolArguments& arguments, std::ostream& out, Change change) {
+// Loads IN as the editor opens it, once `prepare` has set the editor up,
+// lets `change` work on the document, and writes OUT as the editor saves it.
+// The messages shown until then are printed first, then the lines `change`
+// returns, then the save's message.
+template <typename Prepare, typename Change>
+int RewriteTemplate(const ToolArguments& arguments, std::ostream& out, Prepare prepare,
+                    Change change) {
     ToolSession session(arguments.dataFolder);
     lw::Weaver& weaver = session.weaver;
+    prepare(weaver);
     bool failed = !weaver.LoadTemplateFile(CommandLinePath(arguments.positional[0]));
     std::vector<std::string> report;
     if (!failed)
@@ -52,13 +58,31 @@ int RunCheckCommand(const ToolArguments& arguments, std::ostream& out) {
 }
 
 int RunNormalizeCommand(const ToolArguments& arguments, std::ostream& out) {
-    return RewriteTemplate(arguments, out, [](lw::Weaver&) { return std::vector<std::string>(); });
+    return RewriteTemplate(
+        arguments, out, [](lw::Weaver&) {}, [](lw::Weaver&) { return std::vector<std::string>(); });
 }
 
 int RunReloadCommand(const ToolArguments& arguments, std::ostream& out) {
+    // With --before, the template is read against the blocks it was made
+    // with, and the reload then meets the changed blocks of --data, as when
+    // block files change under a template open in the editor.
+    const auto before = arguments.values.find(kBeforeOption);
+    const bool hasBefore = before != arguments.values.end();
+    if (hasBefore && lw::NativeFileSystem().KindOf(before->second) != lw::PathKind::Directory) {
+        std::cerr << "loomwright-tool: there is no folder " << before->second << "\n";
+        return kFailure;
+    }
+    const auto useBlocksBefore = [&](lw::Weaver& weaver) {
+        if (!hasBefore)
+            return;
+        weaver.files.SetBaseFolder(before->second);
+        weaver.blockPool.Load(weaver.blockFolders);
+    };
     // The same reload as the editor's, with the log printed instead of
     // written into the data folder and opened.
-    return RewriteTemplate(arguments, out, [](lw::Weaver& weaver) {
+    return RewriteTemplate(arguments, out, useBlocksBefore, [&](lw::Weaver& weaver) {
+        if (hasBefore)
+            weaver.files.SetBaseFolder(arguments.dataFolder);
         std::vector<std::string> log;
         lw::BlockReloader(weaver, weaver.blockPool, log).Run(weaver.blockFolders);
         return log;

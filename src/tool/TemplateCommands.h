@@ -12,10 +12,12 @@ int RunCheckCommand(const ToolArguments& arguments, std::ostream& out);
 // editor saves it, printing the messages.
 int RunNormalizeCommand(const ToolArguments& arguments, std::ostream& out);
 
-// `reload IN OUT`: loads IN, brings it into line with the block files as the
-// editor's reload of blocks does, and writes OUT; the reload's log is printed
-// after the messages.
+// `reload [--before DIR] IN OUT`: loads IN, brings it into line with the block
+// files as the editor's reload of blocks does, and writes OUT; the reload's
+// log is printed after the messages. With --before, IN is read against the
+// blocks of that data folder, the ones it was made with.
 int RunReloadCommand(const ToolArguments& arguments, std::ostream& out);
+inline constexpr const char* kBeforeOption = "--before";
 
 // Exit status of the template commands.
 enum ToolStatus { kNoMessage = 0, kMessageShown = 1, kFailure = 2 };

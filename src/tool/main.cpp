@@ -25,10 +25,12 @@ const char* const kUsage =
     "  normalize [--data DIR] IN OUT\n"
     "           load IN as the editor opens it and write OUT as the editor saves\n"
     "           it; the messages are printed without a prefix\n"
-    "  reload [--data DIR] IN OUT\n"
+    "  reload [--data DIR] [--before OLD] IN OUT\n"
     "           load IN, reload the blocks as the editor does after its block\n"
     "           files changed, and write OUT; the messages are printed, then the\n"
-    "           reload's log, instead of writing it into the data folder\n"
+    "           reload's log, instead of writing it into the data folder; with\n"
+    "           --before, IN is read against the blocks of the data folder OLD,\n"
+    "           the ones it was made with, so that the log tells every change\n"
     "  render [--data DIR] [--layers LIST] [--scale S] IN OUT.png\n"
     "           load IN as the editor opens it, print the messages, and draw the\n"
     "           whole template as the canvas shows it into the PNG picture OUT;\n"
@@ -66,9 +68,13 @@ int main(int argc, char** argv) {
     const std::string defaultData =
         lw::DataFolderForExecutable(lw::CurrentExecutablePath(argc > 0 ? argv[0] : nullptr));
     const bool render = words[0] == "render";
-    const ToolArguments arguments = ToolArguments::Parse(
-        {words.begin() + 1, words.end()}, defaultData,
-        render ? std::set<std::string>{kLayersOption, kScaleOption} : std::set<std::string>{});
+    std::set<std::string> valuedOptions;
+    if (render)
+        valuedOptions = {kLayersOption, kScaleOption};
+    else if (words[0] == "reload")
+        valuedOptions = {kBeforeOption};
+    const ToolArguments arguments =
+        ToolArguments::Parse({words.begin() + 1, words.end()}, defaultData, valuedOptions);
     if (!arguments.error.empty()) {
         std::cerr << "loomwright-tool: " << arguments.error << "\n" << kUsage;
         return 2;
