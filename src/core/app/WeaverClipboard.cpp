@@ -12,21 +12,18 @@ void Weaver::ExportSelection(const std::string& path) {
         prompts.ShowMessage("Empty Selection!", MessageIcon::Stop);
         return;
     }
-    // The file is emptied first, so that a copy of nothing usable leaves an
-    // empty clipboard rather than the previous one.
-    if (!files.ReplaceFile(path, "")) {
-        prompts.ShowMessage("Can't open file!", MessageIcon::Stop);
-        return;
-    }
     TemplateDesc desc;
     SelectionExporter(*this, desc).ExportMembers();
-    if (desc.phases.empty() && desc.cases.empty() && desc.switches.empty()) {
-        prompts.ShowMessage("Nothing to export. Select at least one phase, case or switch.",
-                            MessageIcon::Stop);
+    // Nothing usable still replaces the file, with nothing: a copy of only
+    // checks leaves an empty clipboard rather than the previous one.
+    const bool usable = !desc.phases.empty() || !desc.cases.empty() || !desc.switches.empty();
+    if (!files.ReplaceFile(path, usable ? TemplateDescText(desc) : std::string())) {
+        prompts.ShowMessage("Can't open file!", MessageIcon::Stop);
         return;
     }
-    if (!files.ReplaceFile(path, TemplateDescText(desc)))
-        prompts.ShowMessage("Can't open file!", MessageIcon::Stop);
+    if (!usable)
+        prompts.ShowMessage("Nothing to export. Select at least one phase, case or switch.",
+                            MessageIcon::Stop);
 }
 
 void Weaver::PlaceTemplate(const std::string& path, int x, int y, int viewX, int viewY,

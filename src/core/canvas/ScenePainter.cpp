@@ -259,12 +259,7 @@ void ScenePainter::PaintChecks() const {
     const std::int32_t corner = TruncateToInt(view_.scale * 15.0f);
     const std::int32_t textShift = TruncateToInt(view_.scale * 32.0f);
     store_.ForEach<Check>([&](const Check& check) {
-        const ScreenRect r = check.GetScreenRect(view_.viewX, view_.viewY, view_.scale);
-        dc_.SelectPen(kThinBlackPen);
-        SelectFill(check);
-        dc_.RoundRect(r, corner, corner);
-        dc_.SelectPen(kThinGreenPen);
-        dc_.Line(Anchor(check), ConnectionPoint(store_.FindPhase(check.phaseId)));
+        const ScreenRect r = PaintRuleBox(check, check.phaseId, corner);
         const ScreenRect textRect{r.left + textShift, r.top, r.right + textShift, r.bottom};
         dc_.DrawText(checkTypeToKeyword(static_cast<CheckType>(check.type)), textRect,
                      TextVerticalCentre | TextSingleLine | TextNoClip);
@@ -276,16 +271,22 @@ void ScenePainter::PaintActions() const {
         return;
     const std::int32_t corner = TruncateToInt(view_.scale * 15.0f);
     store_.ForEach<Action>([&](const Action& action) {
-        const ScreenRect r = action.GetScreenRect(view_.viewX, view_.viewY, view_.scale);
-        dc_.SelectPen(kThinBlackPen);
-        SelectFill(action);
-        dc_.RoundRect(r, corner, corner);
-        dc_.SelectPen(kThinGreenPen);
-        dc_.Line(Anchor(action), ConnectionPoint(store_.FindPhase(action.phaseId)));
+        const ScreenRect r = PaintRuleBox(action, action.phaseId, corner);
         const std::string owner = action.objectName.empty() ? "*" : action.objectName;
         dc_.DrawText(owner + ":" + action.name, r,
                      TextCentre | TextVerticalCentre | TextSingleLine | TextNoClip);
     });
+}
+
+ScreenRect ScenePainter::PaintRuleBox(const EditorObject& object, std::int32_t phaseId,
+                                      std::int32_t corner) const {
+    const ScreenRect r = object.GetScreenRect(view_.viewX, view_.viewY, view_.scale);
+    dc_.SelectPen(kThinBlackPen);
+    SelectFill(object);
+    dc_.RoundRect(r, corner, corner);
+    dc_.SelectPen(kThinGreenPen);
+    dc_.Line(Anchor(object), ConnectionPoint(store_.FindPhase(phaseId)));
+    return r;
 }
 
 // Unlinkers have no option of their own: they come and go with the actions.

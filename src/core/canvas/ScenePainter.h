@@ -51,6 +51,10 @@ private:
     void PaintGeometry(const Phase& phase) const;
     void PaintPickedGeometryLink() const;
     void PaintGestureLine() const;
+    // The round box of a check or an action with its green line to the
+    // phase; answers the box, in which the text goes.
+    ScreenRect PaintRuleBox(const EditorObject& object, std::int32_t phaseId,
+                            std::int32_t corner) const;
     // The fill of an object that is not a phase.
     void SelectFill(const EditorObject& object) const;
 

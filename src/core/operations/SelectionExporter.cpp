@@ -4,7 +4,10 @@ namespace lw {
 
 SelectionExporter::SelectionExporter(const ObjectStore& store, TemplateDesc& desc)
     : TemplateExporter(store, desc),
-      selected_(store.selection.members.begin(), store.selection.members.end()) {}
+      selected_(store.selection.members.begin(), store.selection.members.end()) {
+    store.ForEach<Unlinker>(
+        [this](const Unlinker& unlinker) { firstUnlinkers_.emplace(unlinker.phaseId, &unlinker); });
+}
 
 void SelectionExporter::ExportMembers() {
     for (const EditorObject* member : store.selection.members) {
@@ -24,8 +27,8 @@ void SelectionExporter::ExportPhaseWithItsParts(const Phase& phase) {
         if (const Action* action = As<Action>(store.FindObject(id)))
             ExportAction(*action);
     }
-    if (const Unlinker* unlinker = FirstUnlinkerOf(phase))
-        ExportUnlinker(*unlinker);
+    if (const auto unlinker = firstUnlinkers_.find(phase.id); unlinker != firstUnlinkers_.end())
+        ExportUnlinker(*unlinker->second);
     for (std::int32_t id : phase.checkIds) {
         if (const Check* check = As<Check>(store.FindObject(id)))
             ExportCheck(*check);
@@ -36,15 +39,6 @@ void SelectionExporter::ExportPhaseWithItsParts(const Phase& phase) {
         if (link.fromPhaseId == phase.id)
             ExportLink(link);
     }
-}
-
-const Unlinker* SelectionExporter::FirstUnlinkerOf(const Phase& phase) const {
-    for (const auto& object : store.objects) {
-        const Unlinker* unlinker = As<Unlinker>(object.get());
-        if (unlinker != nullptr && unlinker->phaseId == phase.id)
-            return unlinker;
-    }
-    return nullptr;
 }
 
 const Phase* SelectionExporter::ResolvePhase(std::int32_t id) const {

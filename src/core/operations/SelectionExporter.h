@@ -2,6 +2,7 @@
 
 #include "operations/TemplateExporter.h"
 
+#include <unordered_map>
 #include <unordered_set>
 
 namespace lw {
@@ -28,10 +29,11 @@ protected:
 
 private:
     void ExportPhaseWithItsParts(const Phase& phase);
-    const Unlinker* FirstUnlinkerOf(const Phase& phase) const;
     bool IsSelected(const EditorObject* object) const { return selected_.count(object) != 0; }
 
     std::unordered_set<const EditorObject*> selected_;
+    // The first unlinker in the store of each phase id; a phase has one.
+    std::unordered_map<std::int32_t, const Unlinker*> firstUnlinkers_;
 };
 
 } // namespace lw
