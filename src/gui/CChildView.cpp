@@ -1,16 +1,52 @@
 #include "CChildView.h"
 
 #include "CanvasImage.h"
+#include "QtText.h"
+#include "app/EditorCommands.h"
 #include "app/Weaver.h"
 
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
+
+namespace {
+
+// The buttons and keys held, as the gestures read them.
+unsigned InputFlags(Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers) {
+    unsigned flags = 0;
+    if (buttons & Qt::LeftButton)
+        flags |= lw::kLeftButton;
+    if (buttons & Qt::RightButton)
+        flags |= lw::kRightButton;
+    if (buttons & Qt::MiddleButton)
+        flags |= lw::kMiddleButton;
+    if (modifiers & Qt::ShiftModifier)
+        flags |= lw::kShiftKey;
+    if (modifiers & Qt::ControlModifier)
+        flags |= lw::kCtrlKey;
+    return flags;
+}
+
+unsigned InputFlags(const QMouseEvent* event) {
+    return InputFlags(event->buttons(), event->modifiers());
+}
+
+} // namespace
 
 CChildView::CChildView(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+}
+
+CChildView::~CChildView() = default;
+
+void CChildView::Attach(lw::Weaver& weaver, lw::EditorCommands& commands) {
+    weaver_ = &weaver;
+    commands_ = &commands;
+    input_ = std::make_unique<lw::CanvasInput>(weaver);
 }
 
 void CChildView::ShowCursor(lw::CanvasCursor cursor) {
@@ -26,28 +62,85 @@ void CChildView::ShowCursor(lw::CanvasCursor cursor) {
     }
 }
 
-void CChildView::mouseMoveEvent(QMouseEvent* event) {
-    if (weaver_ == nullptr)
+void CChildView::mousePressEvent(QMouseEvent* event) {
+    if (!input_)
         return;
-    weaver_->pointerX = event->position().toPoint().x();
-    weaver_->pointerY = event->position().toPoint().y();
+    const QPoint point = event->position().toPoint();
+    if (event->button() == Qt::LeftButton) {
+        input_->LeftDown(point.x(), point.y(), InputFlags(event));
+    } else if (event->button() == Qt::RightButton) {
+        setFocus();
+        input_->RightDown(point.x(), point.y(), InputFlags(event));
+    }
 }
 
 void CChildView::mouseReleaseEvent(QMouseEvent* event) {
-    if (weaver_ == nullptr || event->button() != Qt::LeftButton ||
-        weaver_->interactionState != lw::StatePlaceTemplate)
+    if (!input_)
         return;
     const QPoint point = event->position().toPoint();
-    weaver_->PlaceTemplate(weaver_->pendingImportPath, point.x(), point.y(), viewX, viewY, scale);
+    if (event->button() == Qt::LeftButton) {
+        input_->LeftUp(point.x(), point.y(), InputFlags(event));
+    } else if (event->button() == Qt::RightButton) {
+        setFocus();
+        if (input_->RightUp(point.x(), point.y(), InputFlags(event)))
+            ShowContextMenu(point);
+    }
+}
+
+// The second press of a double click comes here instead of as a press.
+void CChildView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (!input_)
+        return;
+    const QPoint point = event->position().toPoint();
+    if (event->button() == Qt::LeftButton)
+        input_->LeftDoubleClick(point.x(), point.y());
+    else
+        mousePressEvent(event);
+}
+
+void CChildView::mouseMoveEvent(QMouseEvent* event) {
+    if (!input_)
+        return;
+    const QPoint point = event->position().toPoint();
+    input_->Move(point.x(), point.y(), InputFlags(event));
+}
+
+void CChildView::wheelEvent(QWheelEvent* event) {
+    if (!input_)
+        return;
+    const QPoint screen = event->globalPosition().toPoint();
+    const QPoint topLeft = mapToGlobal(QPoint(0, 0));
+    const lw::ScreenRect onScreen{topLeft.x(), topLeft.y(), topLeft.x() + width(),
+                                  topLeft.y() + height()};
+    input_->Wheel(screen.x(), screen.y(), event->angleDelta().y(), onScreen);
 }
 
 void CChildView::keyPressEvent(QKeyEvent* event) {
-    if (weaver_ == nullptr || event->key() != Qt::Key_Escape ||
-        weaver_->interactionState != lw::StatePlaceTemplate)
-        return;
-    weaver_->interactionState = lw::StateIdle;
-    weaver_->SetCursor(lw::CanvasCursor::Arrow);
-    weaver_->Repaint();
+    if (input_ && event->key() == Qt::Key_Escape)
+        input_->Key(lw::CanvasKey::Escape);
+    else if (input_ && event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier)
+        input_->Key(lw::CanvasKey::Delete);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+// The menu is built for the selection as it is at the release, and the
+// entry chosen runs as its command.
+void CChildView::ShowContextMenu(const QPoint& point) {
+    QMenu menu(this);
+    for (const lw::MenuEntry& entry : weaver_->BuildContextMenu()) {
+        if (entry.IsSeparator()) {
+            menu.addSeparator();
+            continue;
+        }
+        const QStringList parts = ToQString(entry.text).split('\t');
+        QAction* action = menu.addAction(parts.front());
+        if (parts.size() > 1)
+            action->setShortcut(QKeySequence(parts[1]));
+        const lw::CommandId command = *entry.command;
+        connect(action, &QAction::triggered, this, [this, command] { commands_->Run(command); });
+    }
+    menu.exec(mapToGlobal(point));
 }
 
 void CChildView::paintEvent(QPaintEvent*) {
@@ -55,6 +148,6 @@ void CChildView::paintEvent(QPaintEvent*) {
         return;
     // The whole canvas is painted into an image first and then shown at once,
     // so that a repaint never shows a scene half drawn.
-    const QImage image = lw::PaintCanvasImage(*weaver_, *this, viewFont, size());
+    const QImage image = lw::PaintCanvasImage(*weaver_, *this, lw::CanvasView::font, size());
     QPainter(this).drawImage(0, 0, image);
 }

@@ -13,7 +13,7 @@
 
 CMainFrame::CMainFrame(QWidget* parent)
     : QMainWindow(parent), weaver_(prompts_, optionsStore_, fileSystem_),
-      fileCommands_(weaver_, fileDialogs_), editCommands_(weaver_, fileCommands_) {
+      commands_(weaver_, fileDialogs_) {
     // Until the first refresh of the title the caption is the program's name alone.
     setWindowTitle(lw::kApplicationName);
     prompts_.SetParent(this);
@@ -28,7 +28,7 @@ bool CMainFrame::OnCreate(const std::string& dataFolder) {
     resize(1024, 768);
     weaver_.SetViewHost(this);
     weaver_.SetView(&view_);
-    view_.SetWeaver(&weaver_);
+    view_.Attach(weaver_, commands_);
 
     const QString program = QCoreApplication::applicationFilePath();
     weaver_.StartUp(dataFolder.empty() ? lw::DataFolderForExecutable(PathToStdString(program))
@@ -36,40 +36,46 @@ bool CMainFrame::OnCreate(const std::string& dataFolder) {
     return true;
 }
 
+QAction* CMainFrame::AddCommand(QMenu* menu, const QString& text, lw::CommandId command,
+                                const QKeySequence& keys) {
+    auto* action = menu != nullptr ? menu->addAction(text) : new QAction(text, this);
+    action->setShortcut(keys);
+    connect(action, &QAction::triggered, this, [this, command] { commands_.Run(command); });
+    if (menu == nullptr)
+        addAction(action);
+    return action;
+}
+
 void CMainFrame::CreateFileMenu() {
+    using lw::CommandId;
     QMenu* menu = menuBar()->addMenu(tr("&File"));
-    menu->addAction(tr("New"), QKeySequence(Qt::CTRL | Qt::Key_N), [this] { fileCommands_.New(); });
-    menu->addAction(tr("Open"), QKeySequence(Qt::CTRL | Qt::Key_O),
-                    [this] { fileCommands_.Open(); });
-    menu->addAction(tr("Save"), QKeySequence(Qt::CTRL | Qt::Key_S),
-                    [this] { fileCommands_.Save(); });
-    menu->addAction(tr("Save As"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
-                    [this] { fileCommands_.SaveAs(); });
+    AddCommand(menu, tr("New"), CommandId::FileNew, QKeySequence(Qt::CTRL | Qt::Key_N));
+    AddCommand(menu, tr("Open"), CommandId::FileOpen, QKeySequence(Qt::CTRL | Qt::Key_O));
+    AddCommand(menu, tr("Save"), CommandId::FileSave, QKeySequence(Qt::CTRL | Qt::Key_S));
+    AddCommand(menu, tr("Save As"), CommandId::FileSaveAs,
+               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     menu->addAction(tr("E&xit"), [this] { close(); });
 }
 
 void CMainFrame::CreateEditMenu() {
+    using lw::CommandId;
     QMenu* menu = menuBar()->addMenu(tr("&Edit"));
-    menu->addAction(tr("&Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z),
-                    [this] { editCommands_.Undo(); });
-    menu->addAction(tr("&Redo"), QKeySequence(Qt::CTRL | Qt::Key_Y),
-                    [this] { editCommands_.Redo(); });
+    AddCommand(menu, tr("&Undo"), CommandId::EditUndo, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    AddCommand(menu, tr("&Redo"), CommandId::EditRedo, QKeySequence(Qt::CTRL | Qt::Key_Y));
     menu->addSeparator();
-    menu->addAction(tr("Cu&t"), QKeySequence(Qt::CTRL | Qt::Key_X),
-                    [this] { editCommands_.Cut(); });
-    menu->addAction(tr("&Copy"), QKeySequence(Qt::CTRL | Qt::Key_C),
-                    [this] { editCommands_.Copy(); });
-    menu->addAction(tr("&Paste"), [this] { editCommands_.Paste(); });
+    AddCommand(menu, tr("Cu&t"), CommandId::EditCut, QKeySequence(Qt::CTRL | Qt::Key_X));
+    AddCommand(menu, tr("&Copy"), CommandId::EditCopy, QKeySequence(Qt::CTRL | Qt::Key_C));
+    AddCommand(menu, tr("&Paste"), CommandId::EditPaste);
     // Ctrl+V places the clipboard at the pointer at once, while the menu's
     // Paste waits for a click.
-    auto* pasteAtPointer = new QAction(this);
-    pasteAtPointer->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_V));
-    connect(pasteAtPointer, &QAction::triggered, this, [this] { editCommands_.PasteAtPointer(); });
-    addAction(pasteAtPointer);
+    AddCommand(nullptr, QString(), CommandId::PasteAtPointer, QKeySequence(Qt::CTRL | Qt::Key_V));
     menu->addSeparator();
-    menu->addAction(tr("Reload Blocks \"on the fly\""), [this] { editCommands_.ReloadBlocks(); });
-    menu->addAction(tr("Save Selection to file"), [this] { editCommands_.SaveSelection(); });
-    menu->addAction(tr("Import From File"), [this] { editCommands_.ImportFromFile(); });
+    AddCommand(menu, tr("Reload Blocks \"on the fly\""), CommandId::ReloadBlocks);
+    AddCommand(menu, tr("Save Selection to file"), CommandId::SaveSelection);
+    AddCommand(menu, tr("Import From File"), CommandId::ImportTemplate);
+    // The link gestures' keys work in every state, as the context menu does.
+    AddCommand(nullptr, QString(), CommandId::AddPrimaryLink, QKeySequence(Qt::SHIFT | Qt::Key_T));
+    AddCommand(nullptr, QString(), CommandId::AddSecondaryLink, QKeySequence(Qt::CTRL | Qt::Key_T));
 }
 
 void CMainFrame::SetTitle(const std::string& title) {
@@ -78,6 +84,12 @@ void CMainFrame::SetTitle(const std::string& title) {
 
 void CMainFrame::Repaint() {
     view_.update();
+}
+
+void CMainFrame::RepaintArea(const lw::ScreenRect& area) {
+    // The band's edge is drawn on its right and bottom lines as well.
+    view_.update(
+        QRect(area.left, area.top, area.right - area.left + 1, area.bottom - area.top + 1));
 }
 
 void CMainFrame::ShowCursor(lw::CanvasCursor cursor) {
@@ -89,7 +101,7 @@ void CMainFrame::OpenTextFile(const std::string& path) {
 }
 
 void CMainFrame::closeEvent(QCloseEvent* event) {
-    if (!fileCommands_.ConfirmClose()) {
+    if (!commands_.File().ConfirmClose()) {
         event->ignore();
         return;
     }

@@ -5,8 +5,7 @@
 #include "QtFileSystem.h"
 #include "QtOptionsStore.h"
 #include "QtPrompts.h"
-#include "app/EditMenuCommands.h"
-#include "app/FileCommands.h"
+#include "app/EditorCommands.h"
 #include "app/Weaver.h"
 #include "platform/ViewHost.h"
 
@@ -25,12 +24,14 @@ public:
     bool OnCreate(const std::string& dataFolder = std::string());
 
     lw::Weaver& weaver() { return weaver_; }
-    lw::FileCommands& fileCommands() { return fileCommands_; }
-    lw::EditMenuCommands& editCommands() { return editCommands_; }
+    lw::EditorCommands& commands() { return commands_; }
+    lw::FileCommands& fileCommands() { return commands_.File(); }
+    lw::EditMenuCommands& editCommands() { return commands_.Edit(); }
     CChildView& view() { return view_; }
 
     void SetTitle(const std::string& title) override;
     void Repaint() override;
+    void RepaintArea(const lw::ScreenRect& area) override;
     void ShowCursor(lw::CanvasCursor cursor) override;
     void OpenTextFile(const std::string& path) override;
 
@@ -41,6 +42,9 @@ protected:
 private:
     void CreateFileMenu();
     void CreateEditMenu();
+    // A menu entry or a key that runs the command, if its enable rule allows.
+    QAction* AddCommand(QMenu* menu, const QString& text, lw::CommandId command,
+                        const QKeySequence& keys = QKeySequence());
 
     QtPrompts prompts_;
     QtFileDialogs fileDialogs_;
@@ -48,6 +52,5 @@ private:
     QtFileSystem fileSystem_;
     CChildView view_;
     lw::Weaver weaver_;
-    lw::FileCommands fileCommands_;
-    lw::EditMenuCommands editCommands_;
+    lw::EditorCommands commands_;
 };

@@ -15,12 +15,16 @@ public:
         titles.push_back(text);
     }
     void Repaint() override { ++repaints; }
+    void RepaintArea(const ScreenRect& area) override { repaintedAreas.push_back(area); }
+    void CapturePointer(bool capture) override { captured = capture; }
     void ShowCursor(CanvasCursor shown) override { cursor = shown; }
     void OpenTextFile(const std::string& path) override { openedFiles.push_back(path); }
 
     std::string title;
     std::vector<std::string> titles;
     int repaints = 0;
+    std::vector<ScreenRect> repaintedAreas;
+    bool captured = false;
     CanvasCursor cursor = CanvasCursor::Arrow;
     std::vector<std::string> openedFiles;
 };

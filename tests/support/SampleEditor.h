@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Weaver.h"
+#include "canvas/CanvasView.h"
 #include "objects/ViewTransform.h"
 #include "platform/MemoryFileSystem.h"
 #include "platform/MemoryOptionsStore.h"
@@ -36,7 +37,7 @@ public:
     MemoryOptionsStore store;
     RecordingPrompts prompts;
     RecordingViewHost host;
-    ViewTransform view;
+    CanvasView view;
     Weaver weaver{prompts, store, disk};
 };
 

@@ -5,14 +5,6 @@
 
 namespace lw {
 
-bool EditMenuCommands::IsIdle() const {
-    return weaver_.interactionState == StateIdle;
-}
-
-bool EditMenuCommands::CanExportSelection() const {
-    return IsIdle() && !weaver_.selection.members.empty();
-}
-
 void EditMenuCommands::Undo() {
     weaver_.Undo();
 }
@@ -22,7 +14,7 @@ void EditMenuCommands::Redo() {
 }
 
 void EditMenuCommands::Cut() {
-    if (!CanExportSelection())
+    if (!weaver_.HasIdleSelection())
         return;
     // The selection goes whatever the export came to; undo brings it back.
     weaver_.ExportSelection(Weaver::kClipboardPath);
@@ -30,19 +22,19 @@ void EditMenuCommands::Cut() {
 }
 
 void EditMenuCommands::Copy() {
-    if (CanExportSelection())
+    if (weaver_.HasIdleSelection())
         weaver_.ExportSelection(Weaver::kClipboardPath);
 }
 
 void EditMenuCommands::Paste() {
-    if (!IsIdle())
+    if (!weaver_.IsIdle())
         return;
     weaver_.selection.Clear();
     WaitToPlace(Weaver::kClipboardPath);
 }
 
 void EditMenuCommands::PasteAtPointer() {
-    if (!IsIdle())
+    if (!weaver_.IsIdle())
         return;
     weaver_.selection.Clear();
     const ViewTransform view = weaver_.CurrentView();
@@ -51,7 +43,7 @@ void EditMenuCommands::PasteAtPointer() {
 }
 
 void EditMenuCommands::SaveSelection() {
-    if (!CanExportSelection())
+    if (!weaver_.HasIdleSelection())
         return;
     FileRequest request = FileCommands::TemplateRequest("selection.mt", "");
     if (fileCommands_.ChooseFileToSave(request))
@@ -59,7 +51,7 @@ void EditMenuCommands::SaveSelection() {
 }
 
 void EditMenuCommands::ImportFromFile() {
-    if (!IsIdle())
+    if (!weaver_.IsIdle())
         return;
     FileRequest request = FileCommands::TemplateRequest("", "");
     if (fileCommands_.ChooseFileToOpen(request))
@@ -73,7 +65,7 @@ void EditMenuCommands::WaitToPlace(const std::string& path) {
 }
 
 void EditMenuCommands::ReloadBlocks() {
-    if (!IsIdle())
+    if (!weaver_.IsIdle())
         return;
     if (weaver_.prompts.Ask(kReloadQuestion, MessageIcon::Warning) != Answer::Yes)
         return;

@@ -35,8 +35,6 @@ public:
     void ReloadBlocks();
 
 private:
-    bool IsIdle() const;
-    bool CanExportSelection() const;
     void WaitToPlace(const std::string& path);
 
     Weaver& weaver_;

@@ -4,9 +4,29 @@
 
 namespace lw {
 
+namespace {
+
+// Until a window gives Weaver its dialogs, every dialog is cancelled.
+class NoPropertyDialogs : public PropertyDialogs {
+public:
+    bool EditPhase(Phase&) override { return false; }
+    bool EditCase(Case&, const std::vector<std::int32_t>&) override { return false; }
+    bool EditSwitch(Switch&, const std::vector<std::int32_t>&) override { return false; }
+    bool EditUnlinker(Unlinker&, std::int32_t) override { return false; }
+    bool EditCheck(Check&) override { return false; }
+    bool EditAction(Action&, ActionDialog) override { return false; }
+    bool AddLink(const Phase&, const Phase&, Link&) override { return false; }
+    bool DeleteLinks(const Phase&, std::vector<Link>&) override { return false; }
+    bool InputString(const std::string&, std::string&) override { return false; }
+};
+
+} // namespace
+
 Weaver::Weaver(UserPrompts& prompts, OptionsStore& optionsStore, FileSystem& fileSystem)
     : prompts(prompts), optionsStore(optionsStore), files(fileSystem), blockPool(files, prompts),
-      undoManager(this) {}
+      undoManager(this) {
+    selection.view = canvasView_;
+}
 
 Weaver::~Weaver() {
     ClearDocument();
@@ -41,6 +61,21 @@ void Weaver::SetCursor(CanvasCursor cursor) {
 void Weaver::Repaint() {
     if (viewHost != nullptr)
         viewHost->Repaint();
+}
+
+void Weaver::RepaintArea(const ScreenRect& area) {
+    if (viewHost != nullptr)
+        viewHost->RepaintArea(area);
+}
+
+void Weaver::SetView(CanvasView* canvasView) {
+    canvasView_ = canvasView != nullptr ? canvasView : &ownView_;
+    selection.view = canvasView_;
+}
+
+PropertyDialogs& Weaver::Dialogs() {
+    static NoPropertyDialogs none;
+    return dialogs_ != nullptr ? *dialogs_ : none;
 }
 
 } // namespace lw

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "app/ContextMenu.h"
 #include "app/EditorOptions.h"
+#include "canvas/CanvasView.h"
 #include "canvas/InteractionState.h"
 #include "catalog/BlocksContainer.h"
 #include "catalog/ModelList.h"
@@ -9,6 +11,7 @@
 #include "operations/ObjectStore.h"
 #include "platform/FileAccess.h"
 #include "platform/OptionsStore.h"
+#include "platform/PropertyDialogs.h"
 #include "platform/UserPrompts.h"
 #include "platform/ViewHost.h"
 #include "undo/UndoManager.h"
@@ -78,15 +81,81 @@ public:
     // shows it at this view offset and scale.
     void PaintScene(DrawingSurface& dc, int viewX, int viewY, float scale) const;
 
+    // The pointer on the canvas, at client points of the view. Each finished
+    // gesture pushes one undo command at most.
+    bool HitTest(const EditorObject* object, int x, int y, const ViewTransform& view) const;
+    // A plain left press: drags what it hits, else selects it, else starts a band.
+    void PointerDown(int x, int y);
+    // The pointer moved with no button or the left one held.
+    void PointerMove(int x, int y);
+    // The left button came up; ends a band, a drag or a placing.
+    void PointerUp(int x, int y);
+    // A left press and release at one point with no key held.
+    void Click(int x, int y);
+    // Selects every object under the point; additive toggles them instead.
+    void SelectAt(bool additive, int x, int y);
+    void BeginDrag(int x, int y);
+    void UpdateBand(int x, int y);
+    void EndBand(int x, int y);
+    // Picks the link or, failing that, the geometry link nearest the point,
+    // within two pixels.
+    void PickLinkAt(int x, int y);
+    // Deletes the picked link, else the picked geometry link, else the selection.
+    void DeleteKey();
+    // Leaves a placing or a link gesture.
+    void EscapeKey();
+    // Edits the object hit, or makes a phase on the empty canvas.
+    void DoubleClick(int x, int y);
+    // A press with Shift: links each selected phase to the phase under the
+    // point, gate by gate.
+    void AutoLinkAt(int x, int y);
+    // Moves the view by the pointer's move in window pixels.
+    void Pan(int dx, int dy);
+    // One step of the wheel about a point given in screen coordinates, which
+    // the canvas covers at `canvasOnScreen`.
+    void Zoom(int screenX, int screenY, int delta, const ScreenRect& canvasOnScreen);
+
+    // The creation commands: each makes its object, opens its dialog on it and
+    // keeps it, placing it first where that takes a click, or removes it again.
+    void AddPhase();
+    void FinishPlacingPhase(int x, int y, int viewX, int viewY, float scale);
+    void AddCase();
+    void AddSwitch();
+    void AddUnlinker();
+    void AddCheck(std::int32_t checkType);
+    void AddRuleAction();
+    // Links the first two selected phases through the link dialog.
+    void AddLink(bool isObjectLink);
+    void DeleteLinksOfPhase();
+    // Waits for a click on the phase that the first selected phase's primary
+    // or secondary geometry link is to lead to.
+    void StartGeometryLink(bool primary);
+    // Links every output gate of `source` to the input of that name of
+    // `destination`, one undo command for each.
+    void AutoLink(const Phase& source, const Phase& destination);
+    // Opens the dialog of the object's kind and keeps what it accepts as one
+    // undoable edit.
+    void EditObjectProperties(EditorObject* object);
+    // The canvas's context menu for the selection now.
+    ContextMenu BuildContextMenu() const;
+
+    // Enable rules of the commands. Commands that start something need the
+    // canvas idle; undo and redo only need something to take.
+    bool IsIdle() const { return interactionState == StateIdle; }
+    bool HasIdleSelection() const { return IsIdle() && !selection.members.empty(); }
+    bool CanUndo() const { return !undoManager.undoStack.empty(); }
+    bool CanRedo() const { return !undoManager.redoStack.empty(); }
+    bool CanSave() const { return IsIdle() && undoManager.changed; }
+
     void SetViewHost(ViewHost* host) { viewHost = host; }
+    void SetPropertyDialogs(PropertyDialogs* shown) { dialogs_ = shown; }
     // Sets `currentCursor` and shows it.
     void SetCursor(CanvasCursor cursor);
-    // The canvas whose offset and scale the selection's bounds follow.
-    void SetView(const ViewTransform* canvasView) { selection.view = canvasView; }
-    // The canvas's offset and scale now; the plain view before there is a canvas.
-    ViewTransform CurrentView() const {
-        return selection.view != nullptr ? *selection.view : ViewTransform{};
-    }
+    // The canvas whose offset, scale and font the gestures change and the
+    // selection's bounds follow; until there is one, a view of Weaver's own.
+    void SetView(CanvasView* canvasView);
+    CanvasView& View() { return *canvasView_; }
+    ViewTransform CurrentView() const { return *canvasView_; }
 
     // The seams, in the order they must be built.
     UserPrompts& prompts;
@@ -113,6 +182,11 @@ public:
     // The pointer's gesture, which the canvas shows while it lasts.
     int interactionState = StateIdle;
     CanvasCursor currentCursor = CanvasCursor::Arrow;
+    // World points of the press that began the gesture and of the drag's last step.
+    std::int32_t anchorX = 0;
+    std::int32_t anchorY = 0;
+    std::int32_t dragX = 0;
+    std::int32_t dragY = 0;
     std::int32_t pointerX = 0;
     std::int32_t pointerY = 0;
     ScreenRect bandRect;
@@ -133,7 +207,35 @@ protected:
     void ForgetObject(const EditorObject* object) override;
 
 private:
+    PropertyDialogs& Dialogs();
+    void RepaintArea(const ScreenRect& area);
+    void EndGesture();
+    void FinishDrag(int x, int y);
+    template <typename Command, typename T> void FinishPlacing(T*& pending, int x, int y);
+    void FinishGeometryLink(int x, int y);
+    // The first object in list order that the point hits, other than `skip`.
+    EditorObject* FirstHit(int x, int y, const EditorObject* skip = nullptr) const;
+    // The phase the commands on "the selected phase" work on: the first selected object.
+    Phase* FirstSelectedPhase() const;
+    // A new phase named "PHASE_<id>" with its dialog opened on it; null when
+    // the dialog did not give it a name free to take and a block.
+    Phase* AskForNewPhase();
+    // The launcher's own tests of what a dialog accepted.
+    bool Acceptable(const Phase& phase) const;
+    bool Acceptable(const Case& item) const;
+    bool Acceptable(const Switch& item) const;
+    bool Acceptable(const Unlinker& unlinker) const;
+    void EditPhase(Phase& phase);
+    void EditCheck(Check& check);
+    void EditAction(Action& action);
+    template <typename T, typename Command, typename OpenDialog>
+    void EditWithDialog(T& object, OpenDialog openDialog);
+
     template <typename Catalogue> void ReadCatalogue(const std::string& path, Catalogue& catalogue);
+
+    CanvasView ownView_;
+    CanvasView* canvasView_ = &ownView_;
+    PropertyDialogs* dialogs_ = nullptr;
 };
 
 } // namespace lw

@@ -10,8 +10,6 @@ namespace {
 
 // Everything that leads to a phase ends here, deliberately off the centre of
 // its box, in world units from its top-left corner.
-constexpr int kConnectionX = 66;
-constexpr int kConnectionY = 50;
 
 // Gate stubs reach this far out of the box, in world units.
 constexpr int kGateStubLength = 150;
@@ -130,8 +128,8 @@ void ScenePainter::PaintGates(const Phase& phase, bool isInput) const {
     const std::int64_t step = Phase::kHeight / (static_cast<std::int64_t>(gates.size()) + 1);
     const std::int64_t boxRight = std::int64_t{phase.posX} + Phase::kWidth;
     const std::int32_t x0 =
-        ScreenX(isInput ? phase.posX - std::int64_t{kGateStubLength} : boxRight);
-    const std::int32_t x1 = ScreenX(isInput ? phase.posX : boxRight + kGateStubLength);
+        view_.ScreenX(isInput ? phase.posX - std::int64_t{kGateStubLength} : boxRight);
+    const std::int32_t x1 = view_.ScreenX(isInput ? phase.posX : boxRight + kGateStubLength);
     const std::int32_t tipX = isInput ? x1 : x0;
     const std::int32_t a = TruncateToInt(view_.scale * -15.0f);
     const std::int32_t b = TruncateToInt(view_.scale * -10.0f);
@@ -139,7 +137,7 @@ void ScenePainter::PaintGates(const Phase& phase, bool isInput) const {
     const unsigned labelFlags =
         TextBottom | TextSingleLine | TextNoClip | (isInput ? TextLeft : TextRight);
     for (std::size_t i = 0; i < gates.size(); ++i) {
-        const std::int32_t y = ScreenY(step * static_cast<std::int64_t>(i + 1) + phase.posY);
+        const std::int32_t y = view_.ScreenY(step * static_cast<std::int64_t>(i + 1) + phase.posY);
         dc_.SelectPen(gates[i].openMark ? kThickRedPen : kThinBlackPen);
         dc_.Line({x0, y}, {x1, y});
         const ScreenRect label =
@@ -180,7 +178,7 @@ void ScenePainter::PaintGeometry(const Phase& phase) const {
 void ScenePainter::PaintGeometryLink(const Phase& fromPhase, const Phase& toPhase,
                                      bool isPrimary) const {
     const ScreenPoint s = ConnectionPoint(&fromPhase);
-    const ScreenPoint t = Anchor(toPhase);
+    const ScreenPoint t = toPhase.ScreenAnchor(view_);
     dc_.SelectPen(isPrimary ? kThinBluePen : kThinRedPen);
     dc_.Line(s, t);
     dc_.SelectPen(isPrimary ? kThickBluePen : kThickRedPen);
@@ -200,7 +198,7 @@ void ScenePainter::PaintPickedGeometryLink() const {
     if (target == nullptr)
         return;
     dc_.SelectPen(kBrightGreenPen);
-    dc_.Line(ConnectionPoint(phase), Anchor(*target));
+    dc_.Line(ConnectionPoint(phase), target->ScreenAnchor(view_));
 }
 
 // Links run between the far ends of the gate stubs and have no arrowheads.
@@ -229,7 +227,7 @@ void ScenePainter::PaintCases() const {
         dc_.Ellipse(item.GetScreenRect(view_.viewX, view_.viewY, view_.scale));
         dc_.SelectPen(kThinBluePen);
         for (std::int32_t phaseId : item.phaseIds)
-            dc_.Line(Anchor(item), ConnectionPoint(store_.FindPhase(phaseId)));
+            dc_.Line(item.ScreenAnchor(view_), ConnectionPoint(store_.FindPhase(phaseId)));
     });
 }
 
@@ -243,7 +241,7 @@ void ScenePainter::PaintSwitches() const {
         dc_.Ellipse(r);
         for (std::int32_t caseId : item.caseIds) {
             if (const Case* target = store_.FindCase(caseId))
-                dc_.Line(Anchor(item), Anchor(*target));
+                dc_.Line(item.ScreenAnchor(view_), target->ScreenAnchor(view_));
         }
         dc_.SelectPen(kThinBlackPen);
         const std::string count =
@@ -285,7 +283,7 @@ ScreenRect ScenePainter::PaintRuleBox(const EditorObject& object, std::int32_t p
     SelectFill(object);
     dc_.RoundRect(r, corner, corner);
     dc_.SelectPen(kThinGreenPen);
-    dc_.Line(Anchor(object), ConnectionPoint(store_.FindPhase(phaseId)));
+    dc_.Line(object.ScreenAnchor(view_), ConnectionPoint(store_.FindPhase(phaseId)));
     return r;
 }
 
@@ -300,7 +298,7 @@ void ScenePainter::PaintUnlinkers() const {
         dc_.Rectangle(r);
         dc_.Line({r.left, r.bottom}, {r.right, r.top});
         dc_.Line({r.left, r.top}, {r.right, r.bottom});
-        dc_.Line(Anchor(unlinker), ConnectionPoint(store_.FindPhase(unlinker.phaseId)));
+        dc_.Line(unlinker.ScreenAnchor(view_), ConnectionPoint(store_.FindPhase(unlinker.phaseId)));
     });
 }
 
@@ -318,23 +316,8 @@ void ScenePainter::SelectFill(const EditorObject& object) const {
     dc_.SelectBrush(store_.selection.Contains(&object) ? kSelectedBrush : kWhiteBrush);
 }
 
-std::int32_t ScenePainter::ScreenX(std::int64_t worldX) const {
-    return TruncateToInt(static_cast<float>(worldX + view_.viewX) * view_.scale);
-}
-
-std::int32_t ScenePainter::ScreenY(std::int64_t worldY) const {
-    return TruncateToInt(static_cast<float>(worldY + view_.viewY) * view_.scale);
-}
-
-ScreenPoint ScenePainter::Anchor(const EditorObject& object) const {
-    return ScreenPoint{ScreenX(object.posX), ScreenY(object.posY)};
-}
-
 ScreenPoint ScenePainter::ConnectionPoint(const Phase* phase) const {
-    if (phase == nullptr)
-        return ScreenPoint{};
-    return ScreenPoint{ScreenX(std::int64_t{phase->posX} + kConnectionX),
-                       ScreenY(std::int64_t{phase->posY} + kConnectionY)};
+    return phase != nullptr ? phase->ConnectionPoint(view_) : ScreenPoint{};
 }
 
 ScreenPoint ScenePainter::GatePoint(std::int32_t phaseId, const std::string& gate,

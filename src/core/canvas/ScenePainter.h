@@ -58,12 +58,6 @@ private:
     // The fill of an object that is not a phase.
     void SelectFill(const EditorObject& object) const;
 
-    // World to screen, one axis at a time.
-    std::int32_t ScreenX(std::int64_t worldX) const;
-    std::int32_t ScreenY(std::int64_t worldY) const;
-    // The position on the screen: the top-left corner of a phase, the centre
-    // of every other object.
-    ScreenPoint Anchor(const EditorObject& object) const;
     // Where every line that leads to a phase ends; (0, 0) for no phase.
     ScreenPoint ConnectionPoint(const Phase* phase) const;
     ScreenPoint GatePoint(std::int32_t phaseId, const std::string& gate, bool isInput) const;

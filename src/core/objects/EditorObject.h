@@ -1,6 +1,7 @@
 #pragma once
 
 #include "objects/ScreenRect.h"
+#include "objects/ViewTransform.h"
 
 #include <cstdint>
 
@@ -30,6 +31,12 @@ public:
     virtual int GetRadius() const { return 1; }
     virtual ObjectKind GetKind() const = 0;
     virtual int GetColorIndex() const { return 0; }
+
+    // The position on the screen: the top-left corner of a phase, the centre
+    // of every other object.
+    ScreenPoint ScreenAnchor(const ViewTransform& view) const {
+        return ScreenPoint{view.ScreenX(posX), view.ScreenY(posY)};
+    }
 
     // Written by whoever places the object, before it is drawn.
     std::int32_t posX = 0;

@@ -69,7 +69,7 @@ ScreenPoint Phase::GateScreenPoint(const std::string& gateName, bool isInput, fl
 
 void Phase::NextCheckPoint(std::int32_t& outX, std::int32_t& outY) const {
     const float offset = static_cast<float>(checkIds.size() * 150) * 0.22f;
-    outX = TruncateToInt(static_cast<double>(static_cast<float>(posX)) + 66.0);
+    outX = TruncateToInt(static_cast<double>(static_cast<float>(posX)) + kConnectionX);
     outY = TruncateToInt(static_cast<double>(offset) + static_cast<double>(posY) + 172.5);
 }
 

@@ -2,6 +2,7 @@
 
 #include "catalog/BlockInfo.h"
 #include "objects/EditorObject.h"
+#include "objects/ScreenRect.h"
 #include "objects/Snapshot.h"
 
 #include <cstdint>
@@ -24,12 +25,6 @@ inline bool operator==(const GateSlot& a, const GateSlot& b) {
 // Whether a gate of that name is among the gates.
 bool HasGate(const std::vector<GateSlot>& gates, const std::string& name);
 
-// A canvas point in window pixels.
-struct ScreenPoint {
-    std::int32_t x = 0;
-    std::int32_t y = 0;
-};
-
 // The central object of a template: a set of blocks with their gates, how the
 // generator places it, and, by id, its checks and actions. A box of 200 by
 // 150 world units with its position at the top-left corner.
@@ -37,6 +32,10 @@ class Phase : public EditorObject {
 public:
     static constexpr int kWidth = 200;
     static constexpr int kHeight = 150;
+    // Every line that leads to a phase ends at this point of it, which is
+    // deliberately not the centre of its box.
+    static constexpr int kConnectionX = 66;
+    static constexpr int kConnectionY = 50;
 
     explicit Phase(std::int32_t id) : EditorObject(id) {}
 
@@ -51,6 +50,10 @@ public:
     // Where the gate stands on the canvas: 150 units left of the box for an
     // input, right of it for an output, spread over its height in equal
     // integer steps; (0, 0) for a gate the phase does not have.
+    ScreenPoint ConnectionPoint(const ViewTransform& view) const {
+        return ScreenPoint{view.ScreenX(std::int64_t{posX} + kConnectionX),
+                           view.ScreenY(std::int64_t{posY} + kConnectionY)};
+    }
     ScreenPoint GateScreenPoint(const std::string& gateName, bool isInput, float scale, int viewX,
                                 int viewY) const;
     // Where the phase's next check goes, below the ones it has.

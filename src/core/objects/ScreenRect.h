@@ -14,6 +14,12 @@ struct ScreenRect {
     bool IsEmpty() const { return left >= right || top >= bottom; }
 };
 
+// A canvas point in window pixels.
+struct ScreenPoint {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+};
+
 inline bool operator==(const ScreenRect& a, const ScreenRect& b) {
     return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "canvas/InteractionState.h"
+#include "objects/ScreenRect.h"
 
 #include <string>
 
@@ -12,6 +13,12 @@ public:
     virtual ~ViewHost() = default;
     virtual void SetTitle(const std::string& title) = 0;
     virtual void Repaint() = 0;
+    // Repaints only this part of the canvas, without erasing it first.
+    virtual void RepaintArea(const ScreenRect& area) = 0;
+    // Keeps every pointer event for the canvas while a gesture lasts, even
+    // outside it. Toolkits that do this between press and release by
+    // themselves need nothing here.
+    virtual void CapturePointer(bool /*capture*/) {}
     // Shows this cursor while the pointer is over the canvas.
     virtual void ShowCursor(CanvasCursor cursor) = 0;
     // Hands a text file the program wrote, such as a log, to the user's

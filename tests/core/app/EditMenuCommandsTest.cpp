@@ -58,7 +58,7 @@ TEST_F(EditMenuCommandsTest, PasteWaitsForAClickWhileCtrlVPlacesAtThePointer) {
     EXPECT_EQ(weaver.pendingImportPath, Weaver::kClipboardPath);
 
     weaver.interactionState = StateIdle;
-    e.view = ViewTransform{10, 20, 2.0f};
+    static_cast<ViewTransform&>(e.view) = ViewTransform{10, 20, 2.0f};
     weaver.pointerX = 100;
     weaver.pointerY = 100;
     const std::size_t before = weaver.objects.size();

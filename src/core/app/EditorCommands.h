@@ -1,0 +1,38 @@
+#pragma once
+
+#include "app/CommandId.h"
+#include "app/EditMenuCommands.h"
+#include "app/FileCommands.h"
+
+namespace lw {
+
+class Weaver;
+
+// Where every command enters, whether from a menu, a button, a key or a
+// script: each runs only while its enable rule allows it.
+class EditorCommands {
+public:
+    EditorCommands(Weaver& weaver, FileDialogs& fileDialogs);
+
+    bool IsEnabled(CommandId command) const;
+    // Whether the toggle is on; false for every command that is none.
+    bool IsChecked(CommandId command) const;
+    // The commands that the window carries out itself: leaving, the About
+    // box and its bars.
+    static bool IsWindowCommand(CommandId command);
+    // Runs the command when it is enabled and no window command; false when
+    // it did not run.
+    bool Run(CommandId command);
+
+    FileCommands& File() { return file_; }
+    EditMenuCommands& Edit() { return edit_; }
+
+private:
+    bool* Toggle(CommandId command) const;
+
+    Weaver& weaver_;
+    FileCommands file_;
+    EditMenuCommands edit_;
+};
+
+} // namespace lw

@@ -1,0 +1,400 @@
+#include "app/Weaver.h"
+#include "undo/UR_AddCommands.h"
+#include "undo/UR_EditPhaseCmd.h"
+#include "undo/UR_MoveObjectsCmd.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+
+namespace lw {
+
+namespace {
+
+// Objects of a layer that an option hides can't be hit or banded; phases
+// always can. The selection itself is no object on the canvas.
+bool IsShown(ObjectKind kind, const EditorOptions& options) {
+    switch (kind) {
+    case ObjectKind::Phase:
+        return true;
+    case ObjectKind::Switch:
+    case ObjectKind::Case:
+        return options.DrawSwitchAndCases;
+    case ObjectKind::Check:
+        return options.DrawChecks;
+    case ObjectKind::Action:
+    case ObjectKind::Unlinker:
+        return options.DrawActions;
+    default:
+        return false;
+    }
+}
+
+bool Contains(const ScreenRect& r, std::int32_t x, std::int32_t y) {
+    return x >= r.left && x < r.right && y >= r.top && y < r.bottom;
+}
+
+ScreenRect SpannedRect(const ScreenPoint& a, std::int32_t x, std::int32_t y) {
+    return ScreenRect{std::min(a.x, x), std::min(a.y, y), std::max(a.x, x), std::max(a.y, y)};
+}
+
+// The products wrap as 32-bit integers do, rather than overflow.
+std::int32_t WrappingSquare(std::int32_t value) {
+    const auto v = static_cast<std::uint32_t>(value);
+    return static_cast<std::int32_t>(v * v);
+}
+
+} // namespace
+
+bool Weaver::HitTest(const EditorObject* object, int x, int y, const ViewTransform& view) const {
+    if (object == nullptr || !IsShown(object->GetKind(), options))
+        return false;
+    const ObjectKind kind = object->GetKind();
+    if (kind == ObjectKind::Case || kind == ObjectKind::Switch) {
+        const ScreenPoint centre = object->ScreenAnchor(view);
+        const std::int32_t r = TruncateToInt(static_cast<float>(object->GetRadius()) * view.scale);
+        const auto sum = static_cast<std::uint32_t>(WrappingSquare(x - centre.x)) +
+                         static_cast<std::uint32_t>(WrappingSquare(y - centre.y));
+        return static_cast<std::int32_t>(sum) < WrappingSquare(r);
+    }
+    return Contains(object->GetScreenRect(view.viewX, view.viewY, view.scale), x, y);
+}
+
+EditorObject* Weaver::FirstHit(int x, int y, const EditorObject* skip) const {
+    const ViewTransform view = CurrentView();
+    for (const auto& object : objects) {
+        if (object.get() != skip && HitTest(object.get(), x, y, view))
+            return object.get();
+    }
+    return nullptr;
+}
+
+void Weaver::PointerDown(int x, int y) {
+    if (!IsIdle())
+        return;
+    selectedLink = Link{};
+    pickedGeometryPhase = 0;
+    pickedIsPrimary = true;
+    const ViewTransform view = CurrentView();
+    for (const EditorObject* member : selection.members) {
+        if (HitTest(member, x, y, view)) {
+            BeginDrag(x, y);
+            return;
+        }
+    }
+    SelectAt(false, x, y);
+    if (!selection.members.empty()) {
+        BeginDrag(x, y);
+        return;
+    }
+    interactionState = StateRubberBand;
+    SetCursor(CanvasCursor::Arrow);
+    anchorX = view.WorldX(x);
+    anchorY = view.WorldY(y);
+    bandRect = ScreenRect{x, y, x, y};
+    previousBandRect = bandRect;
+    bandActive = true;
+    if (viewHost != nullptr)
+        viewHost->CapturePointer(true);
+}
+
+void Weaver::SelectAt(bool additive, int x, int y) {
+    if (!additive && !selection.members.empty()) {
+        selection.Clear();
+        Repaint();
+    }
+    const ViewTransform view = CurrentView();
+    for (const auto& item : objects) {
+        EditorObject* object = item.get();
+        if (!HitTest(object, x, y, view))
+            continue;
+        if (additive && selection.Contains(object))
+            selection.Remove(object);
+        else
+            selection.Add(object);
+        RepaintArea(object->GetScreenRect(view.viewX, view.viewY, view.scale));
+    }
+    selection.Recalculate();
+}
+
+void Weaver::BeginDrag(int x, int y) {
+    const ViewTransform view = CurrentView();
+    interactionState = StateDrag;
+    SetCursor(CanvasCursor::Move);
+    selection.Recalculate();
+    anchorX = view.WorldX(x);
+    anchorY = view.WorldY(y);
+    dragX = anchorX;
+    dragY = anchorY;
+    if (viewHost != nullptr)
+        viewHost->CapturePointer(true);
+}
+
+void Weaver::PointerMove(int x, int y) {
+    pointerX = x;
+    pointerY = y;
+    switch (interactionState) {
+    case StateRubberBand:
+        UpdateBand(x, y);
+        break;
+    case StateDrag: {
+        // Objects follow the pointer at once, with no threshold and no grid.
+        const ViewTransform view = CurrentView();
+        const std::int32_t worldX = view.WorldX(x);
+        const std::int32_t worldY = view.WorldY(y);
+        for (EditorObject* member : selection.members) {
+            member->posX = TruncateToInt(static_cast<double>(member->posX) + worldX - dragX);
+            member->posY = TruncateToInt(static_cast<double>(member->posY) + worldY - dragY);
+        }
+        selection.Recalculate();
+        dragX = worldX;
+        dragY = worldY;
+        Repaint();
+        break;
+    }
+    case StatePrimaryLink:
+    case StateSecondaryLink:
+        Repaint();
+        break;
+    default:
+        break;
+    }
+}
+
+void Weaver::UpdateBand(int x, int y) {
+    previousBandRect = bandRect;
+    bandRect = SpannedRect(ScreenPoint{View().ScreenX(anchorX), View().ScreenY(anchorY)}, x, y);
+    RepaintArea(bandRect);
+    RepaintArea(previousBandRect);
+}
+
+void Weaver::PointerUp(int x, int y) {
+    switch (interactionState) {
+    case StateRubberBand:
+        EndBand(x, y);
+        break;
+    case StateDrag:
+        FinishDrag(x, y);
+        break;
+    case StatePlacePhase: {
+        const ViewTransform view = CurrentView();
+        FinishPlacingPhase(x, y, view.viewX, view.viewY, view.scale);
+        break;
+    }
+    case StatePlaceCase:
+        FinishPlacing<UR_AddNewCaseCmd>(pendingCase, x, y);
+        break;
+    case StatePlaceSwitch:
+        FinishPlacing<UR_AddNewSwitchCmd>(pendingSwitch, x, y);
+        break;
+    default:
+        break;
+    }
+}
+
+void Weaver::EndGesture() {
+    interactionState = StateIdle;
+    SetCursor(CanvasCursor::Arrow);
+}
+
+// The objects moved with every step already; the command only records the
+// whole move, and a press and release in one place records none.
+void Weaver::FinishDrag(int x, int y) {
+    if (viewHost != nullptr)
+        viewHost->CapturePointer(false);
+    EndGesture();
+    selection.Recalculate();
+    const ViewTransform view = CurrentView();
+    const std::int32_t deltaX = TruncateToInt(static_cast<double>(view.WorldX(x)) - anchorX);
+    const std::int32_t deltaY = TruncateToInt(static_cast<double>(view.WorldY(y)) - anchorY);
+    if (deltaX == 0 && deltaY == 0)
+        return;
+    undoManager.Push(std::make_unique<UR_MoveObjectsCmd>(this, deltaX, deltaY, selection.members));
+}
+
+template <typename Command, typename T> void Weaver::FinishPlacing(T*& pending, int x, int y) {
+    if (pending != nullptr) {
+        pending->posX = View().WorldX(x);
+        pending->posY = View().WorldY(y);
+        undoManager.Push(std::make_unique<Command>(this, *pending));
+    }
+    Repaint();
+    pending = nullptr;
+    EndGesture();
+}
+
+// The band takes what it holds by the anchor point, so a phase whose top-left
+// corner lies outside is not taken, however much of it the band covers.
+void Weaver::EndBand(int x, int y) {
+    if (viewHost != nullptr)
+        viewHost->CapturePointer(false);
+    EndGesture();
+    bandActive = false;
+    const bool wasEmpty = selection.members.empty();
+    selection.Clear();
+    const ViewTransform view = CurrentView();
+    const ScreenRect band =
+        SpannedRect(ScreenPoint{view.ScreenX(anchorX), view.ScreenY(anchorY)}, x, y);
+    for (const auto& item : objects) {
+        if (!IsShown(item->GetKind(), options))
+            continue;
+        const ScreenPoint anchor = item->ScreenAnchor(view);
+        // Each object is met once and the selection was emptied, so there is
+        // nothing to look for before appending.
+        if (Contains(band, anchor.x, anchor.y))
+            selection.members.push_back(item.get());
+    }
+    selection.Recalculate();
+    if (selection.members.empty() && wasEmpty) {
+        RepaintArea(bandRect);
+        RepaintArea(previousBandRect);
+    } else {
+        Repaint();
+    }
+}
+
+void Weaver::Click(int x, int y) {
+    switch (interactionState) {
+    case StatePlaceTemplate: {
+        const ViewTransform view = CurrentView();
+        PlaceTemplate(pendingImportPath, x, y, view.viewX, view.viewY, view.scale);
+        break;
+    }
+    case StatePrimaryLink:
+    case StateSecondaryLink:
+        FinishGeometryLink(x, y);
+        break;
+    case StateIdle:
+        PickLinkAt(x, y);
+        Repaint();
+        break;
+    default:
+        break;
+    }
+}
+
+// A click that misses stays in the gesture, and so does one on the phase that
+// the other geometry link of the source already leads to.
+void Weaver::FinishGeometryLink(int x, int y) {
+    if (pendingPhase == nullptr)
+        return;
+    const bool primary = interactionState == StatePrimaryLink;
+    const ViewTransform view = CurrentView();
+    for (const auto& item : objects) {
+        const Phase* target = As<Phase>(item.get());
+        if (target == nullptr || target == pendingPhase || !HitTest(target, x, y, view))
+            continue;
+        const std::int32_t otherTarget =
+            primary ? pendingPhase->secondaryLinkId : pendingPhase->primaryLinkId;
+        if (otherTarget == target->id)
+            continue;
+        auto command = std::make_unique<UR_EditPhaseCmd>(this, *pendingPhase);
+        (primary ? pendingPhase->primaryLinkId : pendingPhase->secondaryLinkId) = target->id;
+        command->Complete(*pendingPhase);
+        undoManager.Push(std::move(command));
+        Repaint();
+        pendingPhase = nullptr;
+        EndGesture();
+        return;
+    }
+}
+
+void Weaver::EscapeKey() {
+    switch (interactionState) {
+    case StatePlacePhase:
+        if (pendingPhase != nullptr)
+            RemoveObject(pendingPhase);
+        break;
+    case StatePlaceCase:
+        if (pendingCase != nullptr)
+            RemoveObject(pendingCase);
+        break;
+    case StatePlaceSwitch:
+        if (pendingSwitch != nullptr)
+            RemoveObject(pendingSwitch);
+        break;
+    case StatePrimaryLink:
+    case StateSecondaryLink:
+        // The source phase stays; only the gesture ends.
+        pendingPhase = nullptr;
+        break;
+    default:
+        break;
+    }
+    // A drag or a band goes on until its release.
+    if (interactionState >= StatePlacePhase)
+        EndGesture();
+    Repaint();
+}
+
+void Weaver::DoubleClick(int x, int y) {
+    if (!IsIdle())
+        return;
+    if (EditorObject* hit = FirstHit(x, y)) {
+        EditObjectProperties(hit);
+        return;
+    }
+    if (pendingPhase != nullptr)
+        return;
+    // On the empty canvas a phase is made where the user clicked, with no
+    // placing step after its dialog.
+    if (AskForNewPhase() != nullptr) {
+        const ViewTransform view = CurrentView();
+        FinishPlacingPhase(x, y, view.viewX, view.viewY, view.scale);
+    }
+    Repaint();
+}
+
+void Weaver::AutoLinkAt(int x, int y) {
+    // AutoLink leaves the selection as it is, so it can be walked directly.
+    const std::vector<EditorObject*> selected = selection.members;
+    for (EditorObject* member : selected) {
+        const Phase* source = As<Phase>(member);
+        if (source == nullptr)
+            continue;
+        const ViewTransform view = CurrentView();
+        for (const auto& item : objects) {
+            const Phase* hit = As<Phase>(item.get());
+            if (hit != nullptr && hit != source && HitTest(hit, x, y, view)) {
+                AutoLink(*source, *hit);
+                break;
+            }
+        }
+    }
+}
+
+void Weaver::Pan(int dx, int dy) {
+    CanvasView& view = View();
+    view.viewX = TruncateToInt(static_cast<double>(view.viewX) +
+                               TruncateToInt(static_cast<float>(dx) / view.scale));
+    view.viewY = TruncateToInt(static_cast<double>(view.viewY) +
+                               TruncateToInt(static_cast<float>(dy) / view.scale));
+    Repaint();
+}
+
+// The fixed point of the zoom is the pointer's point in screen coordinates,
+// taken as if it were a window point, so it is off by the canvas's place on
+// the screen. A band in progress jumps to that point too.
+void Weaver::Zoom(int screenX, int screenY, int delta, const ScreenRect& canvasOnScreen) {
+    if (screenX < canvasOnScreen.left || screenX > canvasOnScreen.right ||
+        screenY < canvasOnScreen.top || screenY > canvasOnScreen.bottom)
+        return;
+    CanvasView& view = View();
+    const double worldX =
+        static_cast<double>(TruncateToInt(static_cast<float>(screenX) / view.scale)) - view.viewX;
+    const double worldY =
+        static_cast<double>(TruncateToInt(static_cast<float>(screenY) / view.scale)) - view.viewY;
+    if (delta > 0)
+        view.scale = static_cast<float>(view.scale * 1.1);
+    else if (delta < 0)
+        view.scale = static_cast<float>(view.scale / 1.1);
+    view.scale = std::clamp(view.scale, 0.01f, 2.0f);
+    view.viewX = TruncateToInt(TruncateToInt(static_cast<float>(screenX) / view.scale) - worldX);
+    view.viewY = TruncateToInt(TruncateToInt(static_cast<float>(screenY) / view.scale) - worldY);
+    view.font = CanvasFontAt(view.scale, true);
+    if (interactionState == StateRubberBand)
+        UpdateBand(screenX, screenY);
+    Repaint();
+}
+
+} // namespace lw
