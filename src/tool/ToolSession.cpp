@@ -7,13 +7,24 @@ ToolSession::ToolSession(const std::string& dataFolder) {
 }
 
 std::vector<std::string> ToolSession::TakeMessages() {
+    return Take(false);
+}
+
+std::vector<std::string> ToolSession::TakeMessagesAndQuestions() {
+    return Take(true);
+}
+
+std::vector<std::string> ToolSession::Take(bool withQuestions) {
     // Only the messages since the last call are copied, so that checking many
     // templates does not go over the earlier ones again.
     const auto& log = prompts.Log();
     std::vector<std::string> fresh;
     for (; messagesTaken_ < log.size(); ++messagesTaken_) {
-        if (!log[messagesTaken_].isQuestion)
-            fresh.push_back(log[messagesTaken_].text);
+        const lw::RecordingPrompts::Shown& shown = log[messagesTaken_];
+        if (!shown.isQuestion)
+            fresh.push_back(shown.text);
+        else if (withQuestions)
+            fresh.push_back("? " + shown.text);
     }
     return fresh;
 }

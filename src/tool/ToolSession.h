@@ -18,6 +18,8 @@ public:
 
     // The texts of the messages shown since the last call.
     std::vector<std::string> TakeMessages();
+    // The same with the questions asked among them, each as "? " and its text.
+    std::vector<std::string> TakeMessagesAndQuestions();
 
     lw::NativeFileSystem disk;
     lw::MemoryOptionsStore options;
@@ -25,6 +27,8 @@ public:
     lw::Weaver weaver{prompts, options, disk};
 
 private:
+    std::vector<std::string> Take(bool withQuestions);
+
     std::size_t messagesTaken_ = 0;
 };
 

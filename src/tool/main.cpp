@@ -1,5 +1,6 @@
 #include "InfoCommand.h"
 #include "RenderCommand.h"
+#include "ReplayCommand.h"
 #include "TemplateCommands.h"
 #include "ToolArguments.h"
 #include "app/DataFolder.h"
@@ -37,6 +38,20 @@ const char* const kUsage =
     "           LIST is a comma-separated choice of io, cases, checks, actions,\n"
     "           geometry and all (the default), S the zoom from 0.01 to 2\n"
     "           (default 1); needs no display\n"
+    "  replay [--data DIR] IN SCRIPT OUT\n"
+    "           load IN, play the canvas events and commands of SCRIPT as the\n"
+    "           editor's window receives them (a window of 1024 by 768 at the\n"
+    "           screen's origin, not zoomed), write OUT as the editor saves it,\n"
+    "           and print after each line of SCRIPT the messages (questions after\n"
+    "           \"? \"), the property dialogs, the context menu and the state;\n"
+    "           SCRIPT has one event a line, \"#\" starts a comment:\n"
+    "             press|release|click X Y [shift] [ctrl]   move X Y [right]\n"
+    "             dblclick X Y   rpress X Y   rrelease X Y   wheel X Y DELTA\n"
+    "             key Delete|Escape   command ID_NAME   dump\n"
+    "             answer yes|no|cancel   file PATH   dialog ok|cancel\n"
+    "           the last three prepare the next question, file dialog (PATH in\n"
+    "           the data folder) or property dialog, which are otherwise\n"
+    "           cancelled; a line not understood stops it before it starts\n"
     "  info [--data DIR]\n"
     "           show what the editor reads from the data folder at start:\n"
     "           the configuration, the model and rule catalogues, the block folders\n"
@@ -45,13 +60,14 @@ const char* const kUsage =
     "  --data DIR  the data folder; by default the one the editor uses,\n"
     "              two levels above this program, then \"data\"\n"
     "\n"
-    "TEMPLATE, IN and OUT are ordinary paths, relative to the working folder;\n"
-    "the block files a template names are found in the data folder.\n"
+    "TEMPLATE, IN, OUT and SCRIPT are ordinary paths, relative to the working\n"
+    "folder; the block files a template names are found in the data folder.\n"
     "\n"
-    "exit status: 0 when no message was shown, 1 when at least one was,\n"
-    "2 for a usage error or a template that cannot be read (\"Can't open\n"
-    "template file!\") or written (\"Can't save template file!\"), or a picture\n"
-    "that cannot be made or written.\n";
+    "exit status: 0 when no message was shown, 1 when at least one was (for\n"
+    "replay, a question too), 2 for a usage error or a template that cannot be\n"
+    "read (\"Can't open template file!\") or written\n"
+    "(\"Can't save template file!\"), a picture that cannot be made or written,\n"
+    "or a replay script that cannot be read or has a line not understood.\n";
 
 } // namespace
 
@@ -90,6 +106,8 @@ int main(int argc, char** argv) {
         return RunRenderCommand(arguments, kUsage);
     if (words[0] == "reload" && count == 2)
         return RunReloadCommand(arguments, std::cout);
+    if (words[0] == "replay" && count == 3)
+        return RunReplayCommand(arguments, std::cout);
 
     std::cerr << "loomwright-tool: unknown command or arguments: " << words[0] << "\n" << kUsage;
     return 2;

@@ -73,8 +73,8 @@ private slots:
         SendMouse(&view, QEvent::MouseButtonRelease, {130, 90}, Qt::RightButton, Qt::NoButton);
 
         const QPoint inside = view.mapToGlobal(QPoint(10, 10));
-        QWheelEvent wheel(QPointF(10, 10), QPointF(inside), QPoint(), QPoint(0, 120),
-                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QWheelEvent wheel(QPointF(10, 10), QPointF(inside), QPoint(), QPoint(0, 120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&view, &wheel);
         QCOMPARE(view.scale, 1.1f);
         QCOMPARE(view.lw::CanvasView::font.height, 15);
