@@ -13,6 +13,8 @@ namespace lw {
 // Only the pointers that its kind uses are set.
 struct DialogCall {
     std::string dialog;
+    // The title a dialog is given, where the caller gives one.
+    std::string title;
     EditorObject* object = nullptr;
     Link* link = nullptr;
     std::vector<Link>* chosenLinks = nullptr;
@@ -30,6 +32,7 @@ public:
     using Edit = std::function<void(DialogCall&)>;
     struct Answered {
         std::string dialog;
+        std::string title;
         bool accepted;
     };
 
