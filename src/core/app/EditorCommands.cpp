@@ -6,7 +6,44 @@
 namespace lw {
 
 EditorCommands::EditorCommands(Weaver& weaver, FileDialogs& fileDialogs)
-    : weaver_(weaver), file_(weaver, fileDialogs), edit_(weaver, file_) {}
+    : weaver_(weaver), file_(weaver, fileDialogs), edit_(weaver, file_) {
+    // Both entries of a link kind make the same link, from the first
+    // selected phase to the second.
+    handlers_ = {
+        {CommandId::FileNew, [this] { file_.New(); }},
+        {CommandId::FileOpen, [this] { file_.Open(); }},
+        {CommandId::FileSave, [this] { file_.Save(); }},
+        {CommandId::FileSaveAs, [this] { file_.SaveAs(); }},
+        {CommandId::EditUndo, [this] { edit_.Undo(); }},
+        {CommandId::EditRedo, [this] { edit_.Redo(); }},
+        {CommandId::EditCut, [this] { edit_.Cut(); }},
+        {CommandId::EditCopy, [this] { edit_.Copy(); }},
+        {CommandId::EditPaste, [this] { edit_.Paste(); }},
+        {CommandId::PasteAtPointer, [this] { edit_.PasteAtPointer(); }},
+        {CommandId::ReloadBlocks, [this] { edit_.ReloadBlocks(); }},
+        {CommandId::SaveSelection, [this] { edit_.SaveSelection(); }},
+        {CommandId::ImportTemplate, [this] { edit_.ImportFromFile(); }},
+        {CommandId::AddPhase, [this] { weaver_.AddPhase(); }},
+        {CommandId::AddUnlinker, [this] { weaver_.AddUnlinker(); }},
+        {CommandId::AddCase, [this] { weaver_.AddCase(); }},
+        {CommandId::AddSwitch, [this] { weaver_.AddSwitch(); }},
+        {CommandId::AddRule, [this] { weaver_.AddRuleAction(); }},
+        {CommandId::AddSquadCheck, [this] { weaver_.AddCheck(CheckSquad); }},
+        {CommandId::AddLocationCheck, [this] { weaver_.AddCheck(CheckLocationType); }},
+        {CommandId::AddCoalitionCheck, [this] { weaver_.AddCheck(CheckCoalition); }},
+        {CommandId::AddRangeCheck, [this] { weaver_.AddCheck(CheckRange); }},
+        {CommandId::AddInRadiusCheck, [this] { weaver_.AddCheck(CheckInRadius); }},
+        {CommandId::AddInSectorCheck, [this] { weaver_.AddCheck(CheckInSector); }},
+        {CommandId::AddFreeCheck, [this] { weaver_.AddCheck(CheckFree); }},
+        {CommandId::AddTargetLink01, [this] { weaver_.AddLink(false); }},
+        {CommandId::AddObjectLink01, [this] { weaver_.AddLink(true); }},
+        {CommandId::AddTargetLink10, [this] { weaver_.AddLink(false); }},
+        {CommandId::AddObjectLink10, [this] { weaver_.AddLink(true); }},
+        {CommandId::DeleteLinks, [this] { weaver_.DeleteLinksOfPhase(); }},
+        {CommandId::AddPrimaryLink, [this] { weaver_.StartGeometryLink(true); }},
+        {CommandId::AddSecondaryLink, [this] { weaver_.StartGeometryLink(false); }},
+    };
+}
 
 bool* EditorCommands::Toggle(CommandId command) const {
     EditorOptions& options = weaver_.options;
@@ -78,102 +115,10 @@ bool EditorCommands::Run(CommandId command) {
         weaver_.Repaint();
         return true;
     }
-    switch (command) {
-    case CommandId::FileNew:
-        file_.New();
-        break;
-    case CommandId::FileOpen:
-        file_.Open();
-        break;
-    case CommandId::FileSave:
-        file_.Save();
-        break;
-    case CommandId::FileSaveAs:
-        file_.SaveAs();
-        break;
-    case CommandId::EditUndo:
-        edit_.Undo();
-        break;
-    case CommandId::EditRedo:
-        edit_.Redo();
-        break;
-    case CommandId::EditCut:
-        edit_.Cut();
-        break;
-    case CommandId::EditCopy:
-        edit_.Copy();
-        break;
-    case CommandId::EditPaste:
-        edit_.Paste();
-        break;
-    case CommandId::PasteAtPointer:
-        edit_.PasteAtPointer();
-        break;
-    case CommandId::ReloadBlocks:
-        edit_.ReloadBlocks();
-        break;
-    case CommandId::SaveSelection:
-        edit_.SaveSelection();
-        break;
-    case CommandId::ImportTemplate:
-        edit_.ImportFromFile();
-        break;
-    case CommandId::AddPhase:
-        weaver_.AddPhase();
-        break;
-    case CommandId::AddUnlinker:
-        weaver_.AddUnlinker();
-        break;
-    case CommandId::AddCase:
-        weaver_.AddCase();
-        break;
-    case CommandId::AddSwitch:
-        weaver_.AddSwitch();
-        break;
-    case CommandId::AddRule:
-        weaver_.AddRuleAction();
-        break;
-    case CommandId::AddSquadCheck:
-        weaver_.AddCheck(CheckSquad);
-        break;
-    case CommandId::AddLocationCheck:
-        weaver_.AddCheck(CheckLocationType);
-        break;
-    case CommandId::AddCoalitionCheck:
-        weaver_.AddCheck(CheckCoalition);
-        break;
-    case CommandId::AddRangeCheck:
-        weaver_.AddCheck(CheckRange);
-        break;
-    case CommandId::AddInRadiusCheck:
-        weaver_.AddCheck(CheckInRadius);
-        break;
-    case CommandId::AddInSectorCheck:
-        weaver_.AddCheck(CheckInSector);
-        break;
-    case CommandId::AddFreeCheck:
-        weaver_.AddCheck(CheckFree);
-        break;
-    case CommandId::AddTargetLink01:
-    case CommandId::AddTargetLink10:
-        weaver_.AddLink(false);
-        break;
-    case CommandId::AddObjectLink01:
-    case CommandId::AddObjectLink10:
-        weaver_.AddLink(true);
-        break;
-    case CommandId::DeleteLinks:
-        weaver_.DeleteLinksOfPhase();
-        break;
-    case CommandId::AddPrimaryLink:
-        weaver_.StartGeometryLink(true);
-        break;
-    case CommandId::AddSecondaryLink:
-        weaver_.StartGeometryLink(false);
-        break;
-    default:
+    const auto handler = handlers_.find(command);
+    if (handler == handlers_.end())
         return false;
-    }
+    handler->second();
     return true;
 }
 

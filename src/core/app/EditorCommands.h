@@ -4,6 +4,9 @@
 #include "app/EditMenuCommands.h"
 #include "app/FileCommands.h"
 
+#include <functional>
+#include <map>
+
 namespace lw {
 
 class Weaver;
@@ -13,6 +16,8 @@ class Weaver;
 class EditorCommands {
 public:
     EditorCommands(Weaver& weaver, FileDialogs& fileDialogs);
+    EditorCommands(const EditorCommands&) = delete;
+    EditorCommands& operator=(const EditorCommands&) = delete;
 
     bool IsEnabled(CommandId command) const;
     // Whether the toggle is on; false for every command that is none.
@@ -33,6 +38,8 @@ private:
     Weaver& weaver_;
     FileCommands file_;
     EditMenuCommands edit_;
+    // What each command does, for all but the toggles and the window's own.
+    std::map<CommandId, std::function<void()>> handlers_;
 };
 
 } // namespace lw

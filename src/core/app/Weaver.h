@@ -220,6 +220,8 @@ private:
     // A new phase named "PHASE_<id>" with its dialog opened on it; null when
     // the dialog did not give it a name free to take and a block.
     Phase* AskForNewPhase();
+    template <typename T, typename OpenDialog>
+    void AskToPlace(T* item, T*& pending, int placeState, OpenDialog openDialog);
     // The launcher's own tests of what a dialog accepted.
     bool Acceptable(const Phase& phase) const;
     bool Acceptable(const Case& item) const;

@@ -111,25 +111,34 @@ void Weaver::FinishPlacingPhase(int x, int y, int viewX, int viewY, float scale)
     EndGesture();
 }
 
+// A case or switch waits for the click that places it once its dialog
+// accepts it; otherwise it goes again.
+template <typename T, typename OpenDialog>
+void Weaver::AskToPlace(T* item, T*& pending, int placeState, OpenDialog openDialog) {
+    pending = item;
+    if (openDialog(*item) && Acceptable(*item)) {
+        interactionState = placeState;
+        SetCursor(CanvasCursor::Place);
+    } else {
+        RemoveObject(item);
+        pending = nullptr;
+    }
+    Repaint();
+}
+
+// The selected phases that have no case yet are offered as its first members.
 void Weaver::AddCase() {
     if (!IsIdle() || pendingCase != nullptr)
         return;
     Case* item = NewCase();
     item->name = "CASE" + std::to_string(item->id);
-    pendingCase = item;
     std::vector<std::int32_t> firstMembers;
     for (const EditorObject* member : selection.members) {
         if (const Phase* phase = As<Phase>(member); phase != nullptr && phase->caseId == 0)
             firstMembers.push_back(phase->id);
     }
-    if (Dialogs().EditCase(*item, firstMembers) && Acceptable(*item)) {
-        interactionState = StatePlaceCase;
-        SetCursor(CanvasCursor::Place);
-    } else {
-        RemoveObject(item);
-        pendingCase = nullptr;
-    }
-    Repaint();
+    AskToPlace(item, pendingCase, StatePlaceCase,
+               [&](Case& edited) { return Dialogs().EditCase(edited, firstMembers); });
 }
 
 void Weaver::AddSwitch() {
@@ -137,20 +146,13 @@ void Weaver::AddSwitch() {
         return;
     Switch* item = NewSwitch();
     item->name = "switch" + std::to_string(item->id);
-    pendingSwitch = item;
     std::vector<std::int32_t> firstMembers;
     for (const EditorObject* member : selection.members) {
         if (const Case* found = As<Case>(member); found != nullptr && found->switchId == 0)
             firstMembers.push_back(found->id);
     }
-    if (Dialogs().EditSwitch(*item, firstMembers) && Acceptable(*item)) {
-        interactionState = StatePlaceSwitch;
-        SetCursor(CanvasCursor::Place);
-    } else {
-        RemoveObject(item);
-        pendingSwitch = nullptr;
-    }
-    Repaint();
+    AskToPlace(item, pendingSwitch, StatePlaceSwitch,
+               [&](Switch& edited) { return Dialogs().EditSwitch(edited, firstMembers); });
 }
 
 // An unlinker needs no placing: its dialog puts it above its phase.
