@@ -213,8 +213,8 @@ private:
     void FinishDrag(int x, int y);
     template <typename Command, typename T> void FinishPlacing(T*& pending, int x, int y);
     void FinishGeometryLink(int x, int y);
-    // The first object in list order that the point hits, other than `skip`.
-    EditorObject* FirstHit(int x, int y, const EditorObject* skip = nullptr) const;
+    // The first object in list order that the point hits.
+    EditorObject* FirstHit(int x, int y) const;
     // The phase the commands on "the selected phase" work on: the first selected object.
     Phase* FirstSelectedPhase() const;
     // A new phase named "PHASE_<id>" with its dialog opened on it; null when

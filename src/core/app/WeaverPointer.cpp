@@ -60,10 +60,10 @@ bool Weaver::HitTest(const EditorObject* object, int x, int y, const ViewTransfo
     return Contains(object->GetScreenRect(view.viewX, view.viewY, view.scale), x, y);
 }
 
-EditorObject* Weaver::FirstHit(int x, int y, const EditorObject* skip) const {
+EditorObject* Weaver::FirstHit(int x, int y) const {
     const ViewTransform view = CurrentView();
     for (const auto& object : objects) {
-        if (object.get() != skip && HitTest(object.get(), x, y, view))
+        if (HitTest(object.get(), x, y, view))
             return object.get();
     }
     return nullptr;
