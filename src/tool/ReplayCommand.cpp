@@ -7,7 +7,7 @@
 #include "app/CanvasInput.h"
 #include "app/EditorCommands.h"
 #include "canvas/CanvasView.h"
-#include "platform/FileDialogs.h"
+#include "platform/ScriptedFileDialogs.h"
 #include "platform/ScriptedPropertyDialogs.h"
 
 #include <algorithm>
@@ -22,41 +22,14 @@ namespace {
 // points are its window points, and has the editor's first window size.
 const lw::ScreenRect kCanvasOnScreen{0, 0, 1024, 768};
 
-// Open and save dialogs that answer the files a script chose for them, in
-// turn, as a user picks them in the data folder; with none left they are
-// cancelled.
-class ScriptedFileDialogs : public lw::FileDialogs {
-public:
-    explicit ScriptedFileDialogs(std::string dataFolder) : dataFolder_(std::move(dataFolder)) {
-        while (dataFolder_.size() > 1 && dataFolder_.back() == '/')
-            dataFolder_.pop_back();
-    }
-
-    void Queue(const std::string& path) { choices_.push_back(path); }
-
-    bool ShowOpenDialog(const std::string&, const lw::FileRequest&,
-                        std::string& chosenPath) override {
-        return TakeChoice(chosenPath);
-    }
-    bool ShowSaveDialog(const std::string&, const lw::FileRequest&,
-                        std::string& chosenPath) override {
-        return TakeChoice(chosenPath);
-    }
-
-private:
-    bool TakeChoice(std::string& chosenPath) {
-        if (choices_.empty())
-            return false;
-        std::string path = choices_.front();
-        choices_.pop_front();
-        std::replace(path.begin(), path.end(), '\\', '/');
-        chosenPath = dataFolder_ + "/" + path;
-        return true;
-    }
-
-    std::string dataFolder_;
-    std::deque<std::string> choices_;
-};
+// The full path a file dialog answers for a file the user picks in the data
+// folder, given as the files name it: relative, with "\" separators.
+std::string PathInDataFolder(std::string dataFolder, std::string path) {
+    while (dataFolder.size() > 1 && dataFolder.back() == '/')
+        dataFolder.pop_back();
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return dataFolder + "/" + path;
+}
 
 unsigned HeldKeys(const ReplayEvent& event) {
     return (event.shift ? lw::kShiftKey : 0u) | (event.ctrl ? lw::kCtrlKey : 0u);
@@ -108,7 +81,7 @@ class Replay {
 public:
     Replay(const ToolArguments& arguments, std::ostream& out)
         : outTyped_(arguments.positional[2]), outPath_(CommandLinePath(outTyped_)), out_(out),
-          fileDialogs_(arguments.dataFolder), session_(arguments.dataFolder),
+          dataFolder_(arguments.dataFolder), session_(arguments.dataFolder),
           commands_(session_.weaver, fileDialogs_), input_(session_.weaver) {
         session_.weaver.SetView(&view_);
         session_.weaver.SetPropertyDialogs(&dialogs_);
@@ -185,7 +158,7 @@ private:
             session_.prompts.QueueAnswer(event.answer);
             break;
         case ReplayEventKind::File:
-            fileDialogs_.Queue(event.path);
+            fileDialogs_.answers.push_back(PathInDataFolder(dataFolder_, event.path));
             break;
         case ReplayEventKind::Dialog:
             dialogs_.QueueOutcome(event.accept);
@@ -239,7 +212,8 @@ private:
     // The view and the dialogs outlive the editor that points to them.
     lw::CanvasView view_;
     lw::ScriptedPropertyDialogs dialogs_;
-    ScriptedFileDialogs fileDialogs_;
+    const std::string dataFolder_;
+    lw::ScriptedFileDialogs fileDialogs_;
     ToolSession session_;
     lw::EditorCommands commands_;
     lw::CanvasInput input_;

@@ -30,11 +30,9 @@ void Weaver::PlaceTemplate(const std::string& path, int x, int y, int viewX, int
                            float scale) {
     interactionState = StateIdle;
     SetCursor(CanvasCursor::Arrow);
-    // The inverse of the canvas transform, in the same 32-bit float steps.
-    const std::int32_t targetX =
-        TruncateToInt(static_cast<float>(x) / scale - static_cast<float>(viewX));
-    const std::int32_t targetY =
-        TruncateToInt(static_cast<float>(y) / scale - static_cast<float>(viewY));
+    const ViewTransform view{viewX, viewY, scale};
+    const std::int32_t targetX = view.WorldX(x);
+    const std::int32_t targetY = view.WorldY(y);
     if (auto stream = files.OpenForReading(path)) {
         TemplateDesc desc;
         ReadTemplateDesc(desc, *stream);

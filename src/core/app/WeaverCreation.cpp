@@ -91,8 +91,8 @@ void Weaver::FinishPlacingPhase(int x, int y, int viewX, int viewY, float scale)
             action->phaseId = phase->id;
             action->objectName = key;
             action->name = property;
-            action->posX =
-                TruncateToInt(static_cast<double>(static_cast<float>(phase->posX)) + 66.0);
+            action->posX = TruncateToInt(static_cast<double>(static_cast<float>(phase->posX)) +
+                                         Phase::kConnectionX);
             action->posY =
                 TruncateToInt(static_cast<double>(static_cast<float>(phase->posY)) - 22.5 -
                               (static_cast<double>(static_cast<float>(k)) * 33.0 - 1.0));

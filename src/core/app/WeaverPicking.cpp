@@ -38,18 +38,11 @@ float DistanceToSegment(ScreenPoint p, ScreenPoint a, ScreenPoint b) {
 void Weaver::PickLinkAt(int x, int y) {
     const ViewTransform view = CurrentView();
     const ScreenPoint pointer{x, y};
-    const auto gatePoint = [&](std::int32_t phaseId, const std::string& gate, bool isInput) {
-        const Phase* phase = FindPhase(phaseId);
-        return phase != nullptr
-                   ? phase->GateScreenPoint(gate, isInput, view.scale, view.viewX, view.viewY)
-                   : ScreenPoint{};
-    };
     if (options.DrawInputOutputs && !links.empty()) {
         float best = kPickTolerance;
         for (const Link& link : links) {
             const float d =
-                DistanceToSegment(pointer, gatePoint(link.fromPhaseId, link.fromGate, false),
-                                  gatePoint(link.toPhaseId, link.toGate, true));
+                DistanceToSegment(pointer, LinkEnd(link, false, view), LinkEnd(link, true, view));
             if (d < best) {
                 selectedLink = link;
                 best = d;

@@ -347,12 +347,11 @@ void Weaver::DoubleClick(int x, int y) {
 
 void Weaver::AutoLinkAt(int x, int y) {
     // AutoLink leaves the selection as it is, so it can be walked directly.
-    const std::vector<EditorObject*> selected = selection.members;
-    for (EditorObject* member : selected) {
+    const ViewTransform view = CurrentView();
+    for (const EditorObject* member : selection.members) {
         const Phase* source = As<Phase>(member);
         if (source == nullptr)
             continue;
-        const ViewTransform view = CurrentView();
         for (const auto& item : objects) {
             const Phase* hit = As<Phase>(item.get());
             if (hit != nullptr && hit != source && HitTest(hit, x, y, view)) {

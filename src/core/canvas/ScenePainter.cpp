@@ -207,14 +207,12 @@ void ScenePainter::PaintLinks() const {
         return;
     for (const Link& link : store_.links) {
         dc_.SelectPen(link.isObjectLink ? kDashedGreenPen : kThinBluePen);
-        dc_.Line(GatePoint(link.fromPhaseId, link.fromGate, false),
-                 GatePoint(link.toPhaseId, link.toGate, true));
+        dc_.Line(store_.LinkEnd(link, false, view_), store_.LinkEnd(link, true, view_));
     }
     const Link& picked = gesture_.selectedLink;
     if (picked.fromPhaseId != 0) {
         dc_.SelectPen(kBrightGreenPen);
-        dc_.Line(GatePoint(picked.fromPhaseId, picked.fromGate, false),
-                 GatePoint(picked.toPhaseId, picked.toGate, true));
+        dc_.Line(store_.LinkEnd(picked, false, view_), store_.LinkEnd(picked, true, view_));
     }
 }
 
@@ -318,14 +316,6 @@ void ScenePainter::SelectFill(const EditorObject& object) const {
 
 ScreenPoint ScenePainter::ConnectionPoint(const Phase* phase) const {
     return phase != nullptr ? phase->ConnectionPoint(view_) : ScreenPoint{};
-}
-
-ScreenPoint ScenePainter::GatePoint(std::int32_t phaseId, const std::string& gate,
-                                    bool isInput) const {
-    const Phase* phase = store_.FindPhase(phaseId);
-    if (phase == nullptr)
-        return ScreenPoint{};
-    return phase->GateScreenPoint(gate, isInput, view_.scale, view_.viewX, view_.viewY);
 }
 
 } // namespace lw

@@ -60,7 +60,6 @@ private:
 
     // Where every line that leads to a phase ends; (0, 0) for no phase.
     ScreenPoint ConnectionPoint(const Phase* phase) const;
-    ScreenPoint GatePoint(std::int32_t phaseId, const std::string& gate, bool isInput) const;
 
     const ObjectStore& store_;
     const EditorOptions& options_;

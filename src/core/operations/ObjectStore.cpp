@@ -74,6 +74,15 @@ template <typename T> bool ObjectStore::NameTaken(std::int32_t id, const std::st
     });
 }
 
+ScreenPoint ObjectStore::LinkEnd(const Link& link, bool atDestination,
+                                 const ViewTransform& view) const {
+    const Phase* phase = FindPhase(atDestination ? link.toPhaseId : link.fromPhaseId);
+    if (phase == nullptr)
+        return ScreenPoint{};
+    return phase->GateScreenPoint(atDestination ? link.toGate : link.fromGate, atDestination,
+                                  view.scale, view.viewX, view.viewY);
+}
+
 bool ObjectStore::PhaseNameTaken(std::int32_t id, const std::string& name) const {
     return NameTaken<Phase>(id, name);
 }

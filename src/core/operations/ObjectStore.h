@@ -51,6 +51,9 @@ public:
     // in the whole store, is called `phaseName`.
     Action* FindActionOf(const std::string& phaseName, const std::string& objectName,
                          const std::string& actionName, const ObjectList* list = nullptr) const;
+    // Where a link's line starts, at its source's output gate, or ends, at its
+    // destination's input gate; (0, 0) for a phase or gate that is missing.
+    ScreenPoint LinkEnd(const Link& link, bool atDestination, const ViewTransform& view) const;
     bool PhaseNameTaken(std::int32_t id, const std::string& name) const;
     bool CaseNameTaken(std::int32_t id, const std::string& name) const;
     bool SwitchNameTaken(std::int32_t id, const std::string& name) const;

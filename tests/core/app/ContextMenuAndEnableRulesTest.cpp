@@ -1,7 +1,7 @@
 #include "GestureFixture.h"
 #include "app/EditorCommands.h"
 #include "document/TemplateDesc.h"
-#include "support/ScriptedFileDialogs.h"
+#include "platform/ScriptedFileDialogs.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

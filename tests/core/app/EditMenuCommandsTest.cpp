@@ -1,8 +1,8 @@
 #include "app/EditMenuCommands.h"
 
 #include "app/FileCommands.h"
+#include "platform/ScriptedFileDialogs.h"
 #include "support/SampleEditor.h"
-#include "support/ScriptedFileDialogs.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@ protected:
 
     test::SampleEditor e;
     Weaver& weaver = e.weaver;
-    test::ScriptedFileDialogs dialogs;
+    ScriptedFileDialogs dialogs;
     FileCommands files{weaver, dialogs};
     EditMenuCommands edit{weaver, files};
 };

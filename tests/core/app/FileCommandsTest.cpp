@@ -4,8 +4,8 @@
 #include "platform/MemoryFileSystem.h"
 #include "platform/MemoryOptionsStore.h"
 #include "platform/RecordingPrompts.h"
+#include "platform/ScriptedFileDialogs.h"
 #include "support/RecordingViewHost.h"
-#include "support/ScriptedFileDialogs.h"
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>
@@ -42,7 +42,7 @@ protected:
     RecordingPrompts prompts;
     test::RecordingViewHost host;
     Weaver weaver{prompts, store, disk};
-    test::ScriptedFileDialogs dialogs;
+    ScriptedFileDialogs dialogs;
     FileCommands commands{weaver, dialogs};
 };
 

@@ -6,9 +6,10 @@
 #include <string>
 #include <vector>
 
-namespace lw::test {
+namespace lw {
 
-// File dialogs that answer from a script: a path, or cancel when empty.
+// File dialogs that answer from a script: each answer a full path, or a
+// cancel when it is empty or there is none left. Each request is kept.
 class ScriptedFileDialogs : public FileDialogs {
 public:
     bool ShowOpenDialog(const std::string& startFolder, const FileRequest& request,
@@ -36,4 +37,4 @@ private:
     }
 };
 
-} // namespace lw::test
+} // namespace lw
