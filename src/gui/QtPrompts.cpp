@@ -17,6 +17,8 @@ QMessageBox::Icon ToQtIcon(lw::MessageIcon icon) {
         return QMessageBox::Warning;
     case lw::MessageIcon::Information:
         return QMessageBox::Information;
+    case lw::MessageIcon::None:
+        return QMessageBox::NoIcon;
     }
     return QMessageBox::NoIcon;
 }

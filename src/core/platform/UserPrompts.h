@@ -4,7 +4,7 @@
 
 namespace lw {
 
-enum class MessageIcon { Stop, Question, Warning, Information };
+enum class MessageIcon { Stop, Question, Warning, Information, None };
 
 enum class Answer { Yes, No, Cancel };
 

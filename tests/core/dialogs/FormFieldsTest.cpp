@@ -1,0 +1,119 @@
+#include "dialogs/ComboField.h"
+#include "dialogs/ListField.h"
+#include "dialogs/NumberField.h"
+#include "platform/RecordingPrompts.h"
+
+#include <gtest/gtest.h>
+
+namespace lw {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+TEST(ListFieldTest, SortedListsIgnoreCaseAndKeepTiesInTheirOrder) {
+    ListField list(true);
+    for (const char* text : {"beta", "Alpha", "ALPHA", "gamma", "alpha", "Beta_2", "beta2"})
+        list.Add(text);
+    EXPECT_EQ(list.Texts(), (Texts{"Alpha", "ALPHA", "alpha", "beta", "beta2", "Beta_2", "gamma"}));
+
+    ListField unsorted;
+    unsorted.Add("b");
+    unsorted.Add("a");
+    EXPECT_EQ(unsorted.Texts(), (Texts{"b", "a"}));
+}
+
+TEST(ListFieldTest, SelectionFollowsTheListsMode) {
+    ListField single;
+    single.Add("a");
+    single.Add("b");
+    single.Select(0);
+    single.Select(1);
+    EXPECT_EQ(single.SelectedIndexes(), std::vector<int>{1});
+
+    ListField multiple(false, ListField::Selection::Multiple);
+    multiple.Add("a");
+    multiple.Add("b");
+    multiple.Select(0);
+    multiple.Select(1);
+    EXPECT_EQ(multiple.SelectedTexts(), (Texts{"a", "b"}));
+
+    ListField none(false, ListField::Selection::None);
+    none.Add("a");
+    none.Select(0);
+    EXPECT_TRUE(none.SelectedIndexes().empty());
+}
+
+TEST(ComboFieldTest, SelectingByTextTakesTheFirstEntryThatBeginsWithIt) {
+    ComboField combo(true);
+    for (const char* text : {"PHASE_10", "phase_1", "Patrol"})
+        combo.Add(text);
+    ASSERT_EQ(combo.Texts(), (Texts{"Patrol", "phase_1", "PHASE_10"}));
+
+    EXPECT_TRUE(combo.SelectByText("PHASE_1"));
+    EXPECT_EQ(combo.Text(), "phase_1");
+    EXPECT_FALSE(combo.SelectByText("z"));
+    EXPECT_EQ(combo.Text(), "phase_1") << "a failed search keeps the selection";
+    EXPECT_TRUE(combo.SelectByText(""));
+    EXPECT_EQ(combo.Current(), 0);
+}
+
+TEST(ComboFieldTest, TheSelectionStaysOnItsEntryWhenOthersComeAndGo) {
+    ComboField combo(true);
+    combo.Add("m");
+    combo.SetCurrent(0);
+    combo.Add("a");
+    EXPECT_EQ(combo.Text(), "m");
+    combo.Remove(0);
+    EXPECT_EQ(combo.Text(), "m");
+    combo.Remove(0);
+    EXPECT_EQ(combo.Current(), -1);
+}
+
+TEST(ComboFieldTest, AnEditableComboShowsWhatWasTyped) {
+    ComboField combo(true, true);
+    combo.Add("alpha");
+    combo.SetCurrent(0);
+    EXPECT_EQ(combo.Text(), "alpha");
+    combo.SetEditText("nowhere");
+    EXPECT_EQ(combo.Text(), "nowhere");
+    EXPECT_EQ(combo.Current(), -1);
+    combo.Clear();
+    EXPECT_EQ(combo.Text(), "");
+}
+
+TEST(NumberFieldTest, OnlyWholeNumbersInRangePass) {
+    RecordingPrompts prompts;
+    NumberField field;
+    std::int32_t value = 7;
+    for (const char* bad : {"", "-", "12a", "1.5", "99999999999", "0x10"}) {
+        field.text = bad;
+        EXPECT_FALSE(ReadInt(field, value, prompts)) << bad;
+    }
+    EXPECT_EQ(value, 7);
+    EXPECT_EQ(prompts.MessageTexts().back(), "Please enter a whole number.");
+
+    field.text = " -42 ";
+    EXPECT_TRUE(ReadInt(field, value, prompts));
+    EXPECT_EQ(value, -42);
+    field.text = "11";
+    EXPECT_FALSE(ReadInt(field, value, prompts, 0, 10));
+    EXPECT_EQ(prompts.MessageTexts().back(), "Please enter a whole number from 0 to 10.");
+}
+
+TEST(NumberFieldTest, FloatsReadWholeAndShowSixDigits) {
+    RecordingPrompts prompts;
+    NumberField field;
+    float value = 0;
+    for (const char* bad : {"", "abc", "1.5m", "nan", "1e39"}) {
+        field.text = bad;
+        EXPECT_FALSE(ReadFloat(field, value, prompts)) << bad;
+    }
+    field.text = "1500.25";
+    EXPECT_TRUE(ReadFloat(field, value, prompts));
+    EXPECT_FLOAT_EQ(value, 1500.25F);
+    field.ShowFloat(1500.0F);
+    EXPECT_EQ(field.text, "1500");
+}
+
+} // namespace
+} // namespace lw
