@@ -13,11 +13,13 @@
 
 CMainFrame::CMainFrame(QWidget* parent)
     : QMainWindow(parent), weaver_(prompts_, optionsStore_, fileSystem_),
-      commands_(weaver_, fileDialogs_) {
+      commands_(weaver_, fileDialogs_), propertyDialogs_(weaver_, prompts_, dialogRunner_) {
     // Until the first refresh of the title the caption is the program's name alone.
     setWindowTitle(lw::kApplicationName);
     prompts_.SetParent(this);
     fileDialogs_.SetParent(this);
+    propertyDialogs_.SetParent(this);
+    weaver_.SetPropertyDialogs(&propertyDialogs_);
 }
 
 bool CMainFrame::OnCreate(const std::string& dataFolder) {

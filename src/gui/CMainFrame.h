@@ -5,6 +5,7 @@
 #include "QtFileSystem.h"
 #include "QtOptionsStore.h"
 #include "QtPrompts.h"
+#include "QtPropertyDialogs.h"
 #include "app/EditorCommands.h"
 #include "app/Weaver.h"
 #include "platform/ViewHost.h"
@@ -53,4 +54,6 @@ private:
     CChildView view_;
     lw::Weaver weaver_;
     lw::EditorCommands commands_;
+    DialogRunner dialogRunner_;
+    QtPropertyDialogs propertyDialogs_;
 };

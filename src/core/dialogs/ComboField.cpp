@@ -32,7 +32,7 @@ void ComboField::SetCurrent(int index) {
 }
 
 bool ComboField::SelectByText(const std::string& text) {
-    const int found = list_.FindPrefix(text);
+    const int found = text.empty() ? -1 : list_.FindPrefix(text);
     if (found < 0)
         return false;
     SetCurrent(found);

@@ -32,7 +32,9 @@ public:
     // Selects the entry, or nothing for -1.
     void SetCurrent(int index);
     // Selects the first entry that begins with `text`, case ignored. With none
-    // the selection stays as it was; answers whether one was found.
+    // the selection stays as it was; answers whether one was found. An empty
+    // text finds nothing: a field stored empty, such as a phase's allocation,
+    // must not come back from its dialog as the first entry.
     bool SelectByText(const std::string& text);
     // What the combo shows.
     std::string Text() const;

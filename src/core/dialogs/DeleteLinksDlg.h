@@ -1,0 +1,54 @@
+#pragma once
+
+#include "objects/Link.h"
+#include "objects/Phase.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace lw {
+
+class Weaver;
+
+// Lists the links at a phase and marks some of them for deletion. The
+// document is only read; the caller deletes `toDelete` after OK.
+class DeleteLinksDlg {
+public:
+    static constexpr const char* kTitle = "Delete Links connected to phase";
+
+    struct Column {
+        const char* title;
+        int width;
+    };
+    static constexpr std::array<Column, 5> kColumns{{{"From phase", 230},
+                                                     {"From connection", 200},
+                                                     {"To phase", 230},
+                                                     {"To connection", 200},
+                                                     {"Object Link", 70}}};
+
+    // A row of the view: one text per column and whether it is selected.
+    struct Row {
+        std::array<std::string, kColumns.size()> texts;
+        bool selected = false;
+    };
+
+    DeleteLinksDlg(Weaver& weaver, const Phase& phase);
+
+    // "Delete Selected Links".
+    void OnDeleteSelected();
+
+    std::vector<Row> linkView;
+    std::vector<Link> toDelete;
+    // The links at the phase that are still in the view.
+    std::vector<Link> shown;
+
+private:
+    void AddRow(const Link& link);
+    int FirstSelectedRow() const;
+
+    const Phase& phase_;
+    Weaver& weaver_;
+};
+
+} // namespace lw

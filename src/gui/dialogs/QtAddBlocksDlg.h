@@ -1,0 +1,25 @@
+#pragma once
+
+#include "FormDialog.h"
+#include "dialogs/CAddBlocksDlg.h"
+
+class QListWidget;
+
+// The view of "Add Blocks": the blocks that fit the main block, any number
+// of them to choose.
+class QtAddBlocksDlg : public FormDialog {
+    Q_OBJECT
+
+public:
+    QtAddBlocksDlg(lw::CAddBlocksDlg& form, lw::UserPrompts& prompts, QWidget* parent = nullptr);
+
+protected:
+    void TakeWidgets() override;
+    void ShowModel() override;
+    bool AcceptModel() override;
+
+private:
+    lw::CAddBlocksDlg& form_;
+    lw::UserPrompts& prompts_;
+    QListWidget* blockList_ = nullptr;
+};

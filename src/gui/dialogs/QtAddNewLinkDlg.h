@@ -1,0 +1,28 @@
+#pragma once
+
+#include "dialogs/AddNewLinkDlg.h"
+#include "dialogs/FormDialog.h"
+
+class QComboBox;
+class QLineEdit;
+
+// The view of the dialog that picks the gates of a new link.
+class QtAddNewLinkDlg : public FormDialog {
+    Q_OBJECT
+
+public:
+    QtAddNewLinkDlg(lw::AddNewLinkDlg& form, lw::UserPrompts& prompts, QWidget* parent = nullptr);
+
+protected:
+    void TakeWidgets() override;
+    void ShowModel() override;
+    bool AcceptModel() override;
+
+private:
+    lw::AddNewLinkDlg& form_;
+    lw::UserPrompts& prompts_;
+    QLineEdit* fromName_ = nullptr;
+    QComboBox* fromCombo_ = nullptr;
+    QLineEdit* toName_ = nullptr;
+    QComboBox* toCombo_ = nullptr;
+};

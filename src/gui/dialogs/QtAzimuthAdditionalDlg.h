@@ -1,0 +1,31 @@
+#pragma once
+
+#include "dialogs/AzimuthAdditionalDlg.h"
+#include "dialogs/FormDialog.h"
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+
+// The view of "Azimuth Additional Parameters".
+class QtAzimuthAdditionalDlg : public FormDialog {
+    Q_OBJECT
+
+public:
+    QtAzimuthAdditionalDlg(lw::AzimuthAdditionalDlg& form, lw::UserPrompts& prompts,
+                           QWidget* parent = nullptr);
+
+protected:
+    void TakeWidgets() override;
+    void ShowModel() override;
+    bool AcceptModel() override;
+
+private:
+    lw::AzimuthAdditionalDlg& form_;
+    lw::UserPrompts& prompts_;
+    QCheckBox* fromServer_ = nullptr;
+    QComboBox* aspectCombo_ = nullptr;
+    QLineEdit* aspectValue_ = nullptr;
+    QLineEdit* range_ = nullptr;
+    QLineEdit* azimuth_ = nullptr;
+};

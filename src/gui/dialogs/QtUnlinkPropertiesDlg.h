@@ -1,0 +1,34 @@
+#pragma once
+
+#include "FormDialog.h"
+#include "dialogs/UnlinkPropertiesDlg.h"
+
+class QComboBox;
+class QListWidget;
+class QPushButton;
+
+// The view of "Unlink properties (unlink non-player gates)": the phase on
+// top, below it the phase's gates, ">>>" and "<<<", and the gates to unlink.
+class QtUnlinkPropertiesDlg : public FormDialog {
+    Q_OBJECT
+
+public:
+    QtUnlinkPropertiesDlg(lw::UnlinkPropertiesDlg& form, lw::UserPrompts& prompts,
+                          QWidget* parent = nullptr);
+
+protected:
+    void TakeWidgets() override;
+    void ShowModel() override;
+    bool AcceptModel() override;
+
+private:
+    QLayout* MakeGateLists();
+
+    lw::UnlinkPropertiesDlg& form_;
+    lw::UserPrompts& prompts_;
+    QComboBox* phaseCombo_ = nullptr;
+    QListWidget* gateList_ = nullptr;
+    QListWidget* unlinkList_ = nullptr;
+    QPushButton* moveToUnlinkButton_ = nullptr;
+    QPushButton* moveBackButton_ = nullptr;
+};

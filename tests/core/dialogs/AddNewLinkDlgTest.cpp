@@ -1,0 +1,74 @@
+#include "dialogs/AddNewLinkDlg.h"
+
+#include "support/SampleEditor.h"
+
+#include <gtest/gtest.h>
+
+namespace lw {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class AddNewLinkDlgTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        e.StartUp();
+        from.name = "Source";
+        from.outputs = {{"out_b"}, {"OUT_a"}, {"out_c"}};
+        from.inputs = {{"not_offered"}};
+        to.name = "Target";
+        to.inputs = {{"in_z"}, {"in_y"}};
+    }
+
+    test::SampleEditor e;
+    Phase& from = *e.weaver.NewPhase();
+    Phase& to = *e.weaver.NewPhase();
+};
+
+TEST_F(AddNewLinkDlgTest, StartOffersTheGatesSortedWithNoneChosen) {
+    AddNewLinkDlg dialog(e.weaver, from, to, false);
+    EXPECT_EQ(dialog.title, "Add new Target Link");
+    EXPECT_EQ(AddNewLinkDlg(e.weaver, from, to, true).title, "Add new Object Link");
+    EXPECT_EQ(dialog.fromName, "Source");
+    EXPECT_EQ(dialog.toName, "Target");
+    EXPECT_EQ(dialog.fromCombo.Texts(), (Texts{"OUT_a", "out_b", "out_c"}));
+    EXPECT_EQ(dialog.toCombo.Texts(), (Texts{"in_y", "in_z"}));
+    EXPECT_EQ(dialog.fromCombo.Current(), -1);
+    EXPECT_EQ(dialog.toCombo.Current(), -1);
+}
+
+TEST_F(AddNewLinkDlgTest, BothConnectionsAreRequired) {
+    AddNewLinkDlg dialog(e.weaver, from, to, true);
+    EXPECT_FALSE(dialog.Ok(e.prompts));
+    dialog.fromCombo.SetCurrent(0);
+    EXPECT_FALSE(dialog.Ok(e.prompts));
+    dialog.fromCombo.SetCurrent(-1);
+    dialog.toCombo.SetCurrent(0);
+    EXPECT_FALSE(dialog.Ok(e.prompts));
+    EXPECT_EQ(e.prompts.MessageTexts(), Texts(3, "Select both connections!"));
+    EXPECT_EQ(e.prompts.Log().back().icon, MessageIcon::None);
+    EXPECT_EQ(dialog.link, Link{});
+}
+
+TEST_F(AddNewLinkDlgTest, ASecondLinkOfTheSameKindIsRefused) {
+    for (bool isObjectLink : {false, true}) {
+        AddNewLinkDlg dialog(e.weaver, from, to, isObjectLink);
+        dialog.fromCombo.SetCurrent(1);
+        dialog.toCombo.SetCurrent(0);
+        ASSERT_TRUE(dialog.Ok(e.prompts)) << isObjectLink;
+        const Link expected{isObjectLink, from.id, "out_b", to.id, "in_y"};
+        EXPECT_EQ(dialog.link, expected);
+        e.weaver.links.push_back(dialog.link);
+    }
+
+    AddNewLinkDlg again(e.weaver, from, to, true);
+    again.fromCombo.SetCurrent(1);
+    again.toCombo.SetCurrent(0);
+    EXPECT_FALSE(again.Ok(e.prompts));
+    EXPECT_EQ(e.prompts.MessageTexts(), Texts{"Such Link Already Exists!"});
+    EXPECT_EQ(e.prompts.Log().back().icon, MessageIcon::None);
+    EXPECT_EQ(again.link, Link{});
+}
+
+} // namespace
+} // namespace lw

@@ -1,0 +1,54 @@
+#include "dialogs/CAddBlocksDlg.h"
+
+#include "app/Weaver.h"
+#include "support/SampleEditor.h"
+
+#include <gtest/gtest.h>
+
+namespace lw {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+const std::string kPatrol = "scg\\0\\blocks\\air\\patrol.group";
+const std::string kPatrolHigh = "scg\\0\\blocks\\air\\patrol_high.group";
+const std::string kPatrolLow = "scg\\0\\blocks\\air\\patrol_low.group";
+
+class AddBlocksTest : public ::testing::Test {
+protected:
+    AddBlocksTest() { e.StartUp(); }
+
+    test::SampleEditor e;
+};
+
+TEST_F(AddBlocksTest, OffersTheCompatibleBlocksInKeyOrderWithTheMainBlockAmongThem) {
+    CAddBlocksDlg dialog(e.weaver, kPatrolHigh);
+    EXPECT_EQ(dialog.mainBlock, kPatrolHigh);
+    EXPECT_EQ(dialog.blockList.Texts(), (Texts{kPatrol, kPatrolHigh, kPatrolLow}));
+
+    dialog.blockList.Select(2);
+    dialog.blockList.Select(0);
+    ASSERT_TRUE(dialog.Ok(e.prompts));
+    EXPECT_EQ(dialog.chosen, (Texts{kPatrol, kPatrolLow}));
+    EXPECT_TRUE(e.prompts.Log().empty());
+}
+
+TEST_F(AddBlocksTest, NoSelectionIsAnEmptyChoice) {
+    CAddBlocksDlg dialog(e.weaver, "scg\\0\\blocks\\air\\landing.group");
+    EXPECT_EQ(dialog.blockList.Texts(), Texts{"scg\\0\\blocks\\air\\landing.group"});
+    ASSERT_TRUE(dialog.Ok(e.prompts));
+    EXPECT_TRUE(dialog.chosen.empty());
+}
+
+TEST_F(AddBlocksTest, AnUnknownMainBlockOffersOnlyBlocksWithoutGatesOrObjects) {
+    const std::string bare = "scg\\0\\blocks\\naval\\bare.group";
+    BlockInfo withObject;
+    withObject.dynamics["Ship"] = {"Model"};
+    e.weaver.blockPool.Put(bare, BlockInfo{});
+    e.weaver.blockPool.Put("scg\\0\\blocks\\naval\\crew.group", withObject);
+    CAddBlocksDlg dialog(e.weaver, "scg\\0\\blocks\\nowhere.group");
+    EXPECT_EQ(dialog.blockList.Texts(), Texts{bare});
+}
+
+} // namespace
+} // namespace lw

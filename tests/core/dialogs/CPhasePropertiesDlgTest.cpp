@@ -1,0 +1,392 @@
+#include "dialogs/CPhasePropertiesDlg.h"
+
+#include "dialogs/AzimuthAdditionalDlg.h"
+#include "dialogs/CAddBlocksDlg.h"
+#include "dialogs/GeometryAspectDlg.h"
+#include "dialogs/PhaseSubDialogs.h"
+#include "support/SampleEditor.h"
+
+#include <gtest/gtest.h>
+
+namespace lw {
+namespace {
+
+using Texts = std::vector<std::string>;
+using Blocks = std::map<std::string, std::string>;
+
+const std::string kPatrol = "scg\\0\\blocks\\air\\patrol.group";
+const std::string kPatrolHigh = "scg\\0\\blocks\\air\\patrol_high.group";
+const std::string kPatrolLow = "scg\\0\\blocks\\air\\patrol_low.group";
+
+// Answers the nested dialogs as a user would: picks references in "Add
+// Blocks", hands back three texts from a geometry dialog, or cancels.
+struct ScriptedSubDialogs : PhaseSubDialogs {
+    bool Run(CAddBlocksDlg& dialog) override {
+        opened.push_back(CAddBlocksDlg::kTitle);
+        for (const std::string& reference : pick)
+            dialog.blockList.Select(dialog.blockList.FindExact(reference));
+        return accept && dialog.Ok(prompts);
+    }
+    bool Run(AzimuthAdditionalDlg& dialog) override { return Geometry(dialog); }
+    bool Run(CFractalAdditionalDlg& dialog) override { return Geometry(dialog); }
+    bool Run(LineAdditionalDlg& dialog) override { return Geometry(dialog); }
+
+    template <typename Dialog> bool Geometry(Dialog& dialog) {
+        opened.push_back(Dialog::kTitle);
+        given = {dialog.param1, dialog.param2, dialog.param3};
+        dialog.param1 = params[0];
+        dialog.param2 = params[1];
+        dialog.param3 = params[2];
+        return accept;
+    }
+
+    bool accept = true;
+    Texts pick;
+    Texts params{"7", "8", "9"};
+    Texts given;
+    Texts opened;
+    RecordingPrompts prompts;
+};
+
+class PhaseDialogTest : public ::testing::Test {
+protected:
+    PhaseDialogTest() { e.Open("scg\\sample_rich.mt"); }
+
+    Phase& Named(const std::string& name) { return *e.weaver.FindPhaseByName(name); }
+    std::string LastMessage() const { return e.prompts.MessageTexts().back(); }
+    static void SetGeneration(CPhasePropertiesDlg& dialog, int type) {
+        dialog.generationCombo.SetCurrent(type);
+        dialog.OnGenerationChanged();
+    }
+    static void ChooseMainBlock(CPhasePropertiesDlg& dialog, const std::string& reference) {
+        dialog.mainBlockCombo.SelectByText(reference);
+        dialog.OnMainBlockChanged();
+    }
+
+    test::SampleEditor e;
+    ScriptedSubDialogs sub;
+};
+
+TEST_F(PhaseDialogTest, ANewPhaseStartsAsRandomWithItsDefaultAllocation) {
+    Phase& phase = *e.weaver.NewPhase();
+    CPhasePropertiesDlg dialog(e.weaver, phase);
+    EXPECT_EQ(dialog.generationCombo.Text(), "Random");
+    EXPECT_EQ(dialog.allocationCombo.Text(), "clone_location");
+    EXPECT_EQ(dialog.mainBlockCombo.Current(), -1);
+    EXPECT_TRUE(dialog.radiosEnabled && dialog.mainBlockCombo.enabled);
+    EXPECT_FALSE(dialog.addBlocksEnabled || dialog.moreParametersEnabled);
+    EXPECT_FALSE(dialog.IsResultValid());
+}
+
+TEST_F(PhaseDialogTest, APhaseWithBlocksOrAFolderKeepsThemLocked) {
+    CPhasePropertiesDlg waypoint(e.weaver, Named("WaypointNorth"));
+    EXPECT_EQ(waypoint.mainBlockCombo.Text(), kPatrol);
+    EXPECT_EQ(waypoint.additionalList.Texts(), (Texts{kPatrolHigh, kPatrolLow}));
+    EXPECT_EQ(waypoint.inputList.Count(), 3);
+    EXPECT_FALSE(waypoint.mainBlockCombo.enabled || waypoint.radiosEnabled);
+    EXPECT_EQ(waypoint.allocationCombo.Text(), "in_2") << "chosen among the waypoint gates";
+
+    CPhasePropertiesDlg positions(e.weaver, Named("AAPositions"));
+    EXPECT_TRUE(positions.folderChecked && positions.folderCombo.shown);
+    EXPECT_EQ(positions.folderCombo.Text(), "scg\\0\\blocks\\ground");
+    EXPECT_FALSE(positions.folderCombo.enabled || positions.addBlocksEnabled);
+}
+
+TEST_F(PhaseDialogTest, OkChecksRunInOrderAndWriteNothingWhenOneFails) {
+    Phase& phase = *e.weaver.NewPhase();
+    const std::string stored = phase.name;
+    CPhasePropertiesDlg dialog(e.weaver, phase);
+    auto refused = [&](const char* message) {
+        EXPECT_FALSE(dialog.Ok(e.prompts));
+        EXPECT_EQ(LastMessage(), message);
+        EXPECT_EQ(e.prompts.Log().back().icon, MessageIcon::Stop);
+    };
+    dialog.name = "";
+    refused("Empty phase name!");
+    dialog.name = "ReconSweep";
+    refused("Phase name is used by other phase!");
+    dialog.name = "Fresh";
+    refused("Phase main blocks set must be selected!");
+    ChooseMainBlock(dialog, kPatrol);
+    SetGeneration(dialog, -1);
+    refused("Phase Generation type must be set!");
+    SetGeneration(dialog, 4);
+    dialog.allocationCombo.SetCurrent(-1);
+    refused("Phase Allocation type must be set!");
+    dialog.allocationCombo.SetCurrent(0);
+    dialog.primaryCombo.SetEditText(stored);
+    refused("Primary link must not look at its own phase!");
+    SetGeneration(dialog, 2);
+    dialog.primaryCombo.SetEditText("ReconSweep");
+    dialog.secondaryCombo.SetEditText(stored);
+    refused("Secondary link must not look at its own phase!");
+    dialog.secondaryCombo.SetEditText("ReconSweep");
+    refused("Secondary link must not look at the same phase as Primary link!");
+    dialog.secondaryCombo.SetEditText("EscortLeg");
+    refused("Geo Parameters must be set! (More Parameters button)");
+    EXPECT_EQ(phase.name, stored);
+    EXPECT_TRUE(phase.blocks.empty());
+
+    dialog.geoParam1 = dialog.geoParam2 = dialog.geoParam3 = "0";
+    EXPECT_TRUE(dialog.Ok(e.prompts));
+    EXPECT_EQ(phase.name, "Fresh");
+    EXPECT_EQ(phase.primaryLinkId, Named("ReconSweep").id);
+    EXPECT_EQ(phase.secondaryLinkId, Named("EscortLeg").id);
+    EXPECT_TRUE(dialog.IsResultValid());
+}
+
+TEST_F(PhaseDialogTest, TheLinkChecksCompareWithTheStoredName) {
+    Phase& escort = Named("EscortLeg");
+    CPhasePropertiesDlg dialog(e.weaver, escort);
+    dialog.name = "EscortRenamed";
+    dialog.primaryCombo.SetEditText("EscortLeg");
+    EXPECT_FALSE(dialog.Ok(e.prompts));
+    EXPECT_EQ(LastMessage(), "Primary link must not look at its own phase!");
+    dialog.primaryCombo.SetEditText("EscortRenamed");
+    ASSERT_TRUE(dialog.Ok(e.prompts));
+    EXPECT_EQ(escort.primaryLinkId, escort.id) << "the new name finds the phase itself";
+}
+
+// FrontSector starts as a line phase linked to AAPositions and FuelDepot.
+struct GenerationCase {
+    int type;
+    int allocationIndex;
+    const char* allocation;
+    bool keepsPrimary;
+    bool keepsSecondary;
+    bool keepsGeometry;
+};
+
+TEST_F(PhaseDialogTest, OkWritesWhatEachGenerationTypeCarries) {
+    const GenerationCase cases[] = {{0, 2, "in_range", true, false, false},
+                                    {1, -1, "", true, false, true},
+                                    {2, -1, "", true, true, true},
+                                    {3, -1, "", true, true, true},
+                                    {4, 5, "rear_board", true, false, false},
+                                    {5, -1, "", false, false, false},
+                                    {6, 0, "takeoff ", false, false, false},
+                                    {6, 12, "land", false, false, false},
+                                    {7, -1, "", false, false, false}};
+    for (const GenerationCase& c : cases) {
+        test::SampleEditor fresh;
+        fresh.Open("scg\\sample_rich.mt");
+        Phase& phase = *fresh.weaver.FindPhaseByName("FrontSector");
+        const Phase before = phase;
+        CPhasePropertiesDlg dialog(fresh.weaver, phase);
+        SetGeneration(dialog, c.type);
+        if (c.allocationIndex >= 0)
+            dialog.allocationCombo.SetCurrent(c.allocationIndex);
+        ASSERT_TRUE(dialog.Ok(fresh.prompts)) << c.type;
+        EXPECT_EQ(phase.generationType, c.type);
+        EXPECT_EQ(phase.allocationType, c.allocation) << c.type;
+        EXPECT_EQ(phase.primaryLinkId, c.keepsPrimary ? before.primaryLinkId : 0) << c.type;
+        EXPECT_EQ(phase.secondaryLinkId, c.keepsSecondary ? before.secondaryLinkId : 0) << c.type;
+        EXPECT_EQ(phase.geoParams, c.keepsGeometry ? before.geoParams : Texts{}) << c.type;
+    }
+}
+
+TEST_F(PhaseDialogTest, ALinkNameThatFindsNoPhaseLeavesTheLinkAsItWas) {
+    Phase& front = Named("FrontSector");
+    const std::int32_t primary = front.primaryLinkId;
+    CPhasePropertiesDlg dialog(e.weaver, front);
+    dialog.primaryCombo.SetEditText("Nobody");
+    dialog.secondaryCombo.SetEditText("");
+    ASSERT_TRUE(dialog.Ok(e.prompts));
+    EXPECT_EQ(front.primaryLinkId, primary);
+    EXPECT_EQ(front.secondaryLinkId, Named("FuelDepot").id);
+}
+
+TEST_F(PhaseDialogTest, GatesAndPropertiesComeFromTheMainBlockAlone) {
+    const BlockInfo patrol = e.weaver.blockPool.GetBlock(kPatrol);
+    Phase& phase = *e.weaver.NewPhase();
+    CPhasePropertiesDlg dialog(e.weaver, phase);
+    ChooseMainBlock(dialog, kPatrol);
+    dialog.additionalList.Add("scg\\0\\blocks\\air\\playerflight.group");
+    dialog.colorCombo.SetCurrent(6);
+    ASSERT_TRUE(dialog.Ok(e.prompts));
+    ASSERT_EQ(phase.inputs.size(), patrol.inputs.size());
+    ASSERT_EQ(phase.outputs.size(), patrol.outputs.size());
+    for (std::size_t i = 0; i < patrol.inputs.size(); ++i)
+        EXPECT_EQ(phase.inputs[i], (GateSlot{patrol.inputs[i], true}));
+    EXPECT_EQ(phase.blockProperties, patrol.dynamics);
+    EXPECT_EQ(phase.colorIndex, 6);
+
+    Phase& recon = Named("ReconSweep");
+    recon.blockProperties = {{"Kept", {"Model"}}};
+    recon.inputs[0].openMark = false;
+    CPhasePropertiesDlg edit(e.weaver, recon);
+    ASSERT_TRUE(edit.Ok(e.prompts));
+    EXPECT_EQ(recon.blockProperties.count("Kept"), 1u);
+    EXPECT_TRUE(recon.inputs[0].openMark);
+}
+
+TEST_F(PhaseDialogTest, AnAdditionalKeyBeforeMainSwapsPlacesWithTheMainBlock) {
+    const std::string fuel = "scg\\0\\blocks\\ground\\depots\\fuel_depot.group";
+    const std::string ammo = "scg\\0\\blocks\\ground\\depots\\ammodepot.group";
+    Phase& depot = Named("FuelDepot");
+    depot.blocks = {{"main", fuel}, {"ammodepot_a", ammo}};
+    CPhasePropertiesDlg dialog(e.weaver, depot);
+    EXPECT_EQ(dialog.mainBlockCombo.Text(), ammo);
+    EXPECT_EQ(dialog.additionalList.Texts(), Texts{fuel});
+    ASSERT_TRUE(dialog.Ok(e.prompts));
+    EXPECT_EQ(depot.blocks, (Blocks{{"main", ammo}, {"fuel_depot_a", fuel}}));
+}
+
+TEST_F(PhaseDialogTest, AdditionalKeysCountOnPastZAndKeepDuplicates) {
+    EXPECT_EQ(CPhasePropertiesDlg::AdditionalBlockKey("scg\\0\\a.b\\bridge", 0), "bridge_a");
+    EXPECT_EQ(CPhasePropertiesDlg::AdditionalBlockKey("x/ferry.crossing.group", 1),
+              "ferry.crossing_b");
+
+    Phase& phase = Named("WaypointNorth");
+    CPhasePropertiesDlg dialog(e.weaver, phase);
+    dialog.OnDeleteAll();
+    for (int i = 0; i < 27; ++i)
+        dialog.additionalList.Add(kPatrolHigh);
+    ASSERT_TRUE(dialog.Ok(e.prompts));
+    EXPECT_EQ(phase.blocks.size(), 28u);
+    EXPECT_EQ(phase.blocks.count("patrol_high_a"), 1u);
+    EXPECT_EQ(phase.blocks.count("patrol_high_z"), 1u);
+    EXPECT_EQ(phase.blocks.count("patrol_high_{"), 1u);
+}
+
+TEST_F(PhaseDialogTest, AllocationFollowsTheGenerationType) {
+    Phase& phase = *e.weaver.NewPhase();
+    CPhasePropertiesDlg dialog(e.weaver, phase);
+    ChooseMainBlock(dialog, kPatrol);
+    SetGeneration(dialog, 6);
+    EXPECT_EQ(dialog.allocationCombo.Current(), -1) << "the default is no waypoint gate";
+    EXPECT_FALSE(dialog.Ok(e.prompts));
+    EXPECT_EQ(LastMessage(), "Phase Allocation type must be set!");
+    SetGeneration(dialog, 4);
+    EXPECT_EQ(dialog.allocationCombo.Text(), "clone_location");
+    SetGeneration(dialog, 1);
+    EXPECT_EQ(dialog.allocationCombo.Current(), -1);
+    EXPECT_FALSE(dialog.allocationCombo.enabled);
+    dialog.geoParam1 = dialog.geoParam2 = dialog.geoParam3 = "1";
+    ASSERT_TRUE(dialog.Ok(e.prompts));
+    EXPECT_EQ(phase.allocationType, "");
+
+    // Reopened, an empty allocation selects nothing, so that OK writes back
+    // the empty text rather than the first entry.
+    CPhasePropertiesDlg again(e.weaver, phase);
+    EXPECT_EQ(again.allocationCombo.Current(), -1);
+    ASSERT_TRUE(again.Ok(e.prompts));
+    EXPECT_EQ(phase.allocationType, "");
+}
+
+TEST_F(PhaseDialogTest, GeometryTextsOutliveAChangeOfTypeAndComeFromTheirDialog) {
+    Phase& recon = Named("ReconSweep");
+    const Texts azimuth = recon.geoParams;
+    CPhasePropertiesDlg dialog(e.weaver, recon);
+    sub.accept = false;
+    dialog.OnMoreParameters(sub);
+    EXPECT_EQ(sub.given, azimuth);
+    EXPECT_EQ(dialog.geoParam1, azimuth[0]) << "Cancel keeps the texts";
+
+    SetGeneration(dialog, 2);
+    EXPECT_TRUE(dialog.secondaryCombo.enabled && dialog.moreParametersEnabled);
+    sub.accept = true;
+    dialog.OnMoreParameters(sub);
+    SetGeneration(dialog, 3);
+    dialog.OnMoreParameters(sub);
+    SetGeneration(dialog, 0);
+    dialog.OnMoreParameters(sub);
+    EXPECT_EQ(sub.opened, (Texts{"Azimuth Additional Parameters", "Fractal Additional Parameters",
+                                 "Line Additional Parameters"}));
+    EXPECT_EQ((Texts{dialog.geoParam1, dialog.geoParam2, dialog.geoParam3}), sub.params);
+
+    CPhasePropertiesDlg fractal(e.weaver, recon);
+    SetGeneration(fractal, 2);
+    ASSERT_TRUE(fractal.Ok(e.prompts)) << "the azimuth texts pass as the fractal's";
+    EXPECT_EQ(recon.geoParams, azimuth);
+}
+
+TEST_F(PhaseDialogTest, AddBlocksAndTheDeleteButtonsEditTheAdditionalList) {
+    Phase& phase = *e.weaver.NewPhase();
+    CPhasePropertiesDlg dialog(e.weaver, phase);
+    dialog.OnAddBlocks(sub);
+    EXPECT_TRUE(sub.opened.empty()) << "nothing to add to without a main block";
+
+    ChooseMainBlock(dialog, kPatrol);
+    EXPECT_TRUE(dialog.addBlocksEnabled);
+    sub.pick = {kPatrolLow, kPatrolHigh};
+    sub.accept = false;
+    dialog.OnAddBlocks(sub);
+    EXPECT_EQ(dialog.additionalList.Count(), 0);
+    sub.accept = true;
+    dialog.OnAddBlocks(sub);
+    dialog.OnAddBlocks(sub);
+    EXPECT_EQ(dialog.additionalList.Texts(),
+              (Texts{kPatrolHigh, kPatrolHigh, kPatrolLow, kPatrolLow}));
+
+    dialog.additionalList.Select(1);
+    dialog.additionalList.Select(2);
+    dialog.OnDeleteSelected();
+    EXPECT_EQ(dialog.additionalList.Texts(), (Texts{kPatrolHigh, kPatrolLow}));
+    ChooseMainBlock(dialog, kPatrolHigh);
+    EXPECT_EQ(dialog.additionalList.Count(), 0) << "another main block drops the sets";
+    dialog.additionalList.Add(kPatrol);
+    dialog.OnDeleteAll();
+    EXPECT_EQ(dialog.additionalList.Count(), 0);
+}
+
+TEST_F(PhaseDialogTest, FolderAndRadioChoicesWriteAtOnceAndCancelKeepsThem) {
+    Phase& phase = *e.weaver.NewPhase();
+    {
+        CPhasePropertiesDlg dialog(e.weaver, phase);
+        dialog.OnFolderRadio();
+        EXPECT_TRUE(dialog.folderCombo.shown && !dialog.mainBlockCombo.shown);
+        EXPECT_FALSE(dialog.additionalList.enabled || dialog.deleteSelectedEnabled);
+        dialog.folderCombo.SelectByText("scg\\0\\blocks\\ground");
+        dialog.OnFolderChanged();
+        EXPECT_EQ(dialog.mainBlockCombo.Text(), "scg\\0\\blocks\\ground\\aa_battery.group");
+        EXPECT_EQ(dialog.inputList.Count(), 3);
+        EXPECT_FALSE(dialog.addBlocksEnabled);
+    } // cancelled
+    EXPECT_EQ(phase.blocksFolder, "scg\\0\\blocks\\ground");
+    EXPECT_TRUE(phase.blocks.empty());
+
+    Phase& other = *e.weaver.NewPhase();
+    CPhasePropertiesDlg dialog(e.weaver, other);
+    dialog.OnFolderRadio();
+    dialog.folderCombo.SetCurrent(0);
+    dialog.OnFolderChanged();
+    EXPECT_TRUE(dialog.radiosEnabled) << "the radios lock only when the dialog opens";
+    dialog.OnMainBlockRadio();
+    EXPECT_TRUE(other.blocksFolder.empty());
+    EXPECT_TRUE(dialog.mainBlockCombo.shown && dialog.mainBlockCombo.enabled);
+    EXPECT_EQ(dialog.mainBlockCombo.Current(), -1);
+
+    dialog.OnFolderRadio();
+    dialog.folderCombo.SelectByText("scg\\0\\blocks\\naval");
+    dialog.OnFolderChanged();
+    ASSERT_TRUE(dialog.Ok(e.prompts));
+    EXPECT_EQ(other.blocks, (Blocks{{"main", "scg\\0\\blocks\\naval\\barge_group.group"}}));
+    EXPECT_EQ(other.blocksFolder, "scg\\0\\blocks\\naval");
+}
+
+TEST_F(PhaseDialogTest, AFolderWithoutBlocksOfItsOwnLeavesNoMainBlock) {
+    e.weaver.blockFolders.push_back("scg\\0\\blocks\\");
+    Phase& phase = *e.weaver.NewPhase();
+    CPhasePropertiesDlg dialog(e.weaver, phase);
+    dialog.OnFolderRadio();
+    dialog.folderCombo.SelectByText("scg\\0\\blocks\\");
+    ASSERT_EQ(dialog.folderCombo.Text(), "scg\\0\\blocks\\");
+    dialog.OnFolderChanged();
+    EXPECT_EQ(dialog.mainBlockCombo.Text(), "");
+    EXPECT_FALSE(dialog.Ok(e.prompts));
+    EXPECT_EQ(LastMessage(), "Phase main blocks set must be selected!");
+}
+
+TEST_F(PhaseDialogTest, AColourBeyondTheTableSelectsNothingAndIsKept) {
+    Phase& recon = Named("ReconSweep");
+    EXPECT_EQ(CPhasePropertiesDlg(e.weaver, recon).colorCombo.Text(), "Blue");
+    recon.colorIndex = 9;
+    CPhasePropertiesDlg dialog(e.weaver, recon);
+    EXPECT_EQ(dialog.colorCombo.Current(), -1);
+    ASSERT_TRUE(dialog.Ok(e.prompts));
+    EXPECT_EQ(recon.colorIndex, 9);
+}
+
+} // namespace
+} // namespace lw

@@ -1,0 +1,165 @@
+#include "dialogs/AzimuthAdditionalDlg.h"
+#include "dialogs/GeometryAspectDlg.h"
+#include "platform/RecordingPrompts.h"
+
+#include <gtest/gtest.h>
+#include <tuple>
+
+namespace lw {
+namespace {
+
+using Texts = std::tuple<std::string, std::string, std::string>;
+
+template <typename Dialog> Texts Params(const Dialog& dialog) {
+    return {dialog.param1, dialog.param2, dialog.param3};
+}
+
+// The aspect of the first text as the dialog shows it: the selected entry
+// ("" for none) and the value edit.
+template <typename Dialog> std::pair<std::string, std::string> Aspect(const Dialog& dialog) {
+    return {dialog.aspectCombo.Text(), dialog.aspectValue.text};
+}
+
+using Shown = std::pair<std::string, std::string>;
+
+TEST(AzimuthAdditionalDlgTest, AspectCodesReadAndWrittenBothWays) {
+    RecordingPrompts prompts;
+    const std::vector<std::pair<std::string, Shown>> codes = {{"-2", {"Random", "0"}},
+                                                              {"-1", {"Default", "0"}},
+                                                              {"7", {"Custom", "7"}},
+                                                              {"0", {"Custom", "0"}},
+                                                              {"", {"Custom", "0"}}};
+    for (const auto& [code, shown] : codes) {
+        AzimuthAdditionalDlg dialog(code, "1500", "45");
+        EXPECT_EQ(Aspect(dialog), shown) << code;
+        EXPECT_FALSE(dialog.fromServer);
+        ASSERT_TRUE(dialog.Ok(prompts));
+        EXPECT_EQ(Params(dialog), (Texts{code.empty() ? "0" : code, "1500.000000", "45"}));
+    }
+
+    // A custom aspect of -1 is stored as the code of "Default".
+    AzimuthAdditionalDlg custom("3", "2.5", "x");
+    custom.aspectValue.text = "-1";
+    ASSERT_TRUE(custom.Ok(prompts));
+    EXPECT_EQ(Params(custom), (Texts{"-1", "2.500000", "0"}));
+    EXPECT_EQ(Aspect(AzimuthAdditionalDlg(custom.param1, "", "")), (Shown{"Default", "0"}));
+}
+
+TEST(AzimuthAdditionalDlgTest, ServerBoxSetAndCleared) {
+    RecordingPrompts prompts;
+    AzimuthAdditionalDlg dialog("-3", "0", "0");
+    EXPECT_TRUE(dialog.fromServer);
+    EXPECT_EQ(Aspect(dialog), (Shown{"", "-3"}));
+    EXPECT_FALSE(dialog.aspectCombo.enabled || dialog.aspectValue.enabled || dialog.range.enabled ||
+                 dialog.azimuth.enabled);
+
+    dialog.fromServer = false;
+    dialog.OnFromServerClicked();
+    EXPECT_EQ(Aspect(dialog), (Shown{"Default", "0"}));
+    EXPECT_EQ(dialog.range.text, "0");
+    EXPECT_TRUE(dialog.aspectCombo.enabled && dialog.range.enabled && dialog.azimuth.enabled);
+    EXPECT_FALSE(dialog.aspectValue.enabled);
+
+    // Cleared on a custom aspect, the texts it opened on come back.
+    AzimuthAdditionalDlg custom("5", "100", "10");
+    custom.range.text = "999";
+    custom.fromServer = true;
+    custom.OnFromServerClicked();
+    EXPECT_EQ(Aspect(custom), (Shown{"", "-3"}));
+    EXPECT_EQ(custom.range.text, "0");
+    custom.fromServer = false;
+    custom.OnFromServerClicked();
+    EXPECT_EQ(Aspect(custom), (Shown{"Custom", "5"}));
+    EXPECT_EQ(custom.range.text, "100");
+    EXPECT_TRUE(custom.aspectValue.enabled);
+
+    custom.fromServer = true;
+    custom.OnFromServerClicked();
+    ASSERT_TRUE(custom.Ok(prompts));
+    EXPECT_EQ(Params(custom), (Texts{"-3", "0", "0"}));
+}
+
+TEST(AzimuthAdditionalDlgTest, ChangingTheAspectResetsItsValue) {
+    AzimuthAdditionalDlg dialog("12", "0", "0");
+    dialog.aspectCombo.SetCurrent(2);
+    dialog.OnAspectChanged();
+    EXPECT_EQ(Aspect(dialog), (Shown{"Random", "0"}));
+    EXPECT_FALSE(dialog.aspectValue.enabled);
+    dialog.aspectCombo.SetCurrent(0);
+    dialog.OnAspectChanged();
+    EXPECT_EQ(Aspect(dialog), (Shown{"Custom", "12"}));
+    EXPECT_TRUE(dialog.aspectValue.enabled);
+}
+
+TEST(GeometryDialogsTest, TextThatIsNoNumberKeepsTheDialogOpen) {
+    RecordingPrompts prompts;
+    AzimuthAdditionalDlg azimuth("5", "100", "10");
+    azimuth.range.text = "far";
+    EXPECT_FALSE(azimuth.Ok(prompts));
+    EXPECT_EQ(Params(azimuth), (Texts{"5", "100", "10"}));
+
+    CFractalAdditionalDlg fractal("5", "20", "left");
+    fractal.deviation.text = "";
+    EXPECT_FALSE(fractal.Ok(prompts));
+    EXPECT_EQ(Params(fractal), (Texts{"5", "20", "left"}));
+
+    LineAdditionalDlg line("5", "100", "10");
+    line.deflection.text = "1x";
+    EXPECT_FALSE(line.Ok(prompts));
+    EXPECT_EQ(Params(line), (Texts{"5", "100", "10"}));
+    EXPECT_EQ(prompts.MessageTexts().size(), 3u);
+}
+
+TEST(GeometryDialogsTest, FractalAndLineAspectCodesBothWays) {
+    RecordingPrompts prompts;
+    const std::vector<std::pair<std::string, Shown>> codes = {{"-1", {"Random", "-1"}},
+                                                              {"0", {"Default", "0"}},
+                                                              {"-2", {"Custom", "-2"}},
+                                                              {"9", {"Custom", "9"}}};
+    for (const auto& [code, shown] : codes) {
+        LineAdditionalDlg line(code, "100", "-4");
+        EXPECT_EQ(Aspect(line), shown) << code;
+        EXPECT_EQ(line.aspectValue.enabled, shown.first == "Custom");
+        ASSERT_TRUE(line.Ok(prompts));
+        EXPECT_EQ(Params(line), (Texts{code, "100", "-4"}));
+        EXPECT_EQ(Aspect(CFractalAdditionalDlg(code, "", "")), shown);
+    }
+
+    // A custom aspect of 0 is stored as the code of "Default".
+    LineAdditionalDlg line("4", "", "");
+    line.aspectValue.text = "0";
+    ASSERT_TRUE(line.Ok(prompts));
+    EXPECT_EQ(Aspect(LineAdditionalDlg(line.param1, "", "")), (Shown{"Default", "0"}));
+
+    line.aspectCombo.SetCurrent(2);
+    line.OnAspectChanged();
+    EXPECT_EQ(Aspect(line), (Shown{"Random", "0"}));
+}
+
+TEST(GeometryDialogsTest, FractalTypeAndForeignTexts) {
+    RecordingPrompts prompts;
+    // The texts of an azimuth phase, read by the fractal rules.
+    CFractalAdditionalDlg fractal("-2", "1500.000000", "45");
+    EXPECT_EQ(Aspect(fractal), (Shown{"Custom", "-2"}));
+    EXPECT_EQ(fractal.deviation.text, "1500");
+    EXPECT_EQ(fractal.typeCombo.Current(), -1);
+    EXPECT_TRUE(fractal.aspectValue.digitsOnly && fractal.deviation.digitsOnly);
+
+    fractal.aspectCombo.SetCurrent(1);
+    fractal.OnAspectChanged();
+    fractal.deviation.text = "30";
+    fractal.typeCombo.SetCurrent(1);
+    ASSERT_TRUE(fractal.Ok(prompts));
+    EXPECT_EQ(Params(fractal), (Texts{"0", "30", "left"}));
+
+    // A new phase: its empty aspect reads as 0, the code of "Default", and
+    // no type is selected, which OK leaves empty.
+    CFractalAdditionalDlg fresh("", "", "");
+    EXPECT_EQ(Aspect(fresh), (Shown{"Default", "0"}));
+    ASSERT_TRUE(fresh.Ok(prompts));
+    EXPECT_EQ(Params(fresh), (Texts{"0", "0", ""}));
+    EXPECT_TRUE(prompts.MessageTexts().empty());
+}
+
+} // namespace
+} // namespace lw

@@ -1,0 +1,142 @@
+#include "dialogs/SwitchPropertiesDlg.h"
+
+#include "support/SampleEditor.h"
+
+#include <gtest/gtest.h>
+
+namespace lw {
+namespace {
+
+using Texts = std::vector<std::string>;
+using Ids = std::vector<std::int32_t>;
+
+// In the sample SwitchAir holds CaseOpening and CaseThreat with number 1 and
+// no preliminary check; SwitchWater holds CaseNaval, checks index 5 and has
+// plane type 2; CaseFront is free.
+class SwitchPropertiesDlgTest : public ::testing::Test {
+protected:
+    void SetUp() override { e.Open("scg\\sample_rich.mt"); }
+
+    Switch& Named(const std::string& name) {
+        Switch* found = nullptr;
+        e.weaver.ForEach<Switch>([&](Switch& s) { found = s.name == name ? &s : found; });
+        return *found;
+    }
+    std::int32_t CaseId(const std::string& name) { return e.weaver.FindCaseByName(name)->id; }
+
+    test::SampleEditor e;
+};
+
+TEST_F(SwitchPropertiesDlgTest, StartShowsTheSwitchAndOffersOnlyFreeCases) {
+    SwitchPropertiesDlg air(e.weaver, Named("SwitchAir"), {});
+    EXPECT_EQ(air.number.text, "1");
+    EXPECT_EQ(air.memberList.Texts(), (Texts{"CaseOpening", "CaseThreat"}));
+    EXPECT_EQ(air.candidateCombo.Texts(), Texts{"CaseFront"});
+    EXPECT_EQ(air.preliminaryCombo.At(7), "enemy_category_3");
+    EXPECT_FALSE(air.planeTypeEnabled);
+}
+
+TEST_F(SwitchPropertiesDlgTest, OkChecksInOrderAndWritesNothingWhenRefused) {
+    Switch& air = Named("SwitchAir");
+    SwitchPropertiesDlg dlg(e.weaver, air, {});
+    dlg.number.text = "x";
+    dlg.name = "";
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    dlg.number.text = "1";
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    dlg.name = "SwitchWater";
+    dlg.memberList.Select(0);
+    dlg.memberList.Select(1);
+    dlg.OnRemove();
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    dlg.name = "Renamed";
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    dlg.candidateCombo.SelectByText("CaseFront");
+    dlg.OnAdd();
+    dlg.number.text = "2";
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    dlg.number.text = "-1";
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    dlg.number.text = "0";
+    dlg.preliminaryCombo.SetCurrent(-1);
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    dlg.preliminaryCombo.SetCurrent(1);
+    dlg.memberList.Add("CaseNaval");
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    dlg.memberList.Select(dlg.memberList.FindExact("CaseNaval"));
+    dlg.OnRemove();
+    dlg.planeType = -1;
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+
+    EXPECT_EQ(e.prompts.MessageTexts(),
+              (Texts{"Please enter a whole number.", "Name must not be empty!",
+                     "Switch name is used by other switch!", "Switch must have at least one case!",
+                     "Switch number can't be large than total case number in the list",
+                     "Switch number can't be negative", "Select Preliminary check type!",
+                     "Case \"CaseNaval\" already has connected switch!", "Select Plane type!"}));
+    EXPECT_EQ(e.prompts.Log().back().icon, MessageIcon::Stop);
+    EXPECT_EQ(air.name, "SwitchAir");
+    EXPECT_EQ(air.caseIds, (Ids{CaseId("CaseOpening"), CaseId("CaseThreat")}));
+
+    dlg.planeType = 1;
+    EXPECT_TRUE(dlg.Ok(e.prompts)) << "a number of 0 is accepted";
+}
+
+TEST_F(SwitchPropertiesDlgTest, TheNumberMayNotExceedTheCases) {
+    SwitchPropertiesDlg dlg(e.weaver, Named("SwitchAir"), {});
+    dlg.number.text = "2";
+    EXPECT_TRUE(dlg.Ok(e.prompts));
+    dlg.memberList.Select(0);
+    dlg.OnRemove();
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    EXPECT_EQ(e.prompts.MessageTexts().size(), 1u);
+    EXPECT_EQ(Named("SwitchAir").caseIds.size(), 2u);
+}
+
+TEST_F(SwitchPropertiesDlgTest, OkWritesTheFieldsAndTheCasesInNameOrder) {
+    e.weaver.NewCase()->name = "zulu";
+    e.weaver.NewCase()->name = "Alpha";
+    Switch& fresh = *e.weaver.NewSwitch();
+    SwitchPropertiesDlg dlg(e.weaver, fresh,
+                            {CaseId("zulu"), CaseId("CaseFront"), CaseId("Alpha")});
+    dlg.number.text = "3";
+    dlg.preliminaryCombo.SetCurrent(7);
+    dlg.planeType = 1;
+    ASSERT_TRUE(dlg.Ok(e.prompts));
+    EXPECT_EQ(fresh.number, 3);
+    EXPECT_EQ(fresh.preliminaryCheck, 7);
+    EXPECT_EQ(fresh.planeType, 1);
+    EXPECT_EQ(fresh.caseIds, (Ids{CaseId("Alpha"), CaseId("CaseFront"), CaseId("zulu")}));
+    EXPECT_EQ(e.weaver.FindCaseByName("zulu")->switchId, fresh.id);
+    EXPECT_TRUE(dlg.IsResultValid());
+
+    SwitchPropertiesDlg edit(e.weaver, fresh, {});
+    edit.name = "SwitchNew";
+    edit.memberList.Select(1);
+    edit.OnRemove();
+    edit.number.text = "2";
+    ASSERT_TRUE(edit.Ok(e.prompts));
+    EXPECT_EQ(fresh.name, "SwitchNew");
+    EXPECT_EQ(e.weaver.FindCaseByName("CaseFront")->switchId, 0);
+    EXPECT_EQ(fresh.caseIds, (Ids{CaseId("Alpha"), CaseId("zulu")}));
+}
+
+TEST_F(SwitchPropertiesDlgTest, WithoutAPreliminaryCheckThePlaneTypeIsKeptAndLocked) {
+    Switch& water = Named("SwitchWater");
+    SwitchPropertiesDlg dlg(e.weaver, water, {});
+    EXPECT_TRUE(dlg.planeTypeEnabled);
+    dlg.preliminaryCombo.SetCurrent(0);
+    dlg.OnPreliminaryChanged();
+    EXPECT_FALSE(dlg.planeTypeEnabled);
+    ASSERT_TRUE(dlg.Ok(e.prompts));
+    EXPECT_EQ(water.preliminaryCheck, 0);
+    EXPECT_EQ(water.planeType, 2);
+
+    water.preliminaryCheck = 8;
+    SwitchPropertiesDlg odd(e.weaver, water, {});
+    EXPECT_EQ(odd.preliminaryCombo.Current(), -1);
+    EXPECT_TRUE(odd.planeTypeEnabled) << "no selection counts as a check";
+}
+
+} // namespace
+} // namespace lw
