@@ -222,11 +222,6 @@ private:
     Phase* AskForNewPhase();
     template <typename T, typename OpenDialog>
     void AskToPlace(T* item, T*& pending, int placeState, OpenDialog openDialog);
-    // The launcher's own tests of what a dialog accepted.
-    bool Acceptable(const Phase& phase) const;
-    bool Acceptable(const Case& item) const;
-    bool Acceptable(const Switch& item) const;
-    bool Acceptable(const Unlinker& unlinker) const;
     void EditPhase(Phase& phase);
     void EditCheck(Check& check);
     void EditAction(Action& action);

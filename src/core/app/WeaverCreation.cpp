@@ -1,5 +1,6 @@
 #include "app/Weaver.h"
 #include "document/TemplateDesc.h"
+#include "operations/Acceptance.h"
 #include "undo/UR_AddCommands.h"
 
 #include <memory>
@@ -27,24 +28,6 @@ std::vector<std::string> PrefilledParams(std::int32_t checkType) {
 
 } // namespace
 
-bool Weaver::Acceptable(const Phase& phase) const {
-    return !phase.name.empty() && !PhaseNameTaken(phase.id, phase.name) && !phase.blocks.empty();
-}
-
-bool Weaver::Acceptable(const Case& item) const {
-    return !item.phaseIds.empty() && !item.name.empty() && !CaseNameTaken(item.id, item.name);
-}
-
-bool Weaver::Acceptable(const Switch& item) const {
-    return !item.name.empty() && !SwitchNameTaken(item.id, item.name) && !item.caseIds.empty() &&
-           std::int64_t{item.number} <= static_cast<std::int64_t>(item.caseIds.size());
-}
-
-bool Weaver::Acceptable(const Unlinker& unlinker) const {
-    return unlinker.phaseId != 0 && FindPhase(unlinker.phaseId) != nullptr &&
-           (!unlinker.inputGates.empty() || !unlinker.outputGates.empty());
-}
-
 Phase* Weaver::FirstSelectedPhase() const {
     return selection.members.empty() ? nullptr : As<Phase>(selection.members.front());
 }
@@ -55,7 +38,7 @@ Phase* Weaver::AskForNewPhase() {
     Phase* phase = NewPhase();
     phase->name = "PHASE_" + std::to_string(phase->id);
     pendingPhase = phase;
-    if (Dialogs().EditPhase(*phase) && Acceptable(*phase))
+    if (Dialogs().EditPhase(*phase) && IsAcceptable(*this, *phase))
         return phase;
     RemoveObject(phase);
     pendingPhase = nullptr;
@@ -116,7 +99,7 @@ void Weaver::FinishPlacingPhase(int x, int y, int viewX, int viewY, float scale)
 template <typename T, typename OpenDialog>
 void Weaver::AskToPlace(T* item, T*& pending, int placeState, OpenDialog openDialog) {
     pending = item;
-    if (openDialog(*item) && Acceptable(*item)) {
+    if (openDialog(*item) && IsAcceptable(*this, *item)) {
         interactionState = placeState;
         SetCursor(CanvasCursor::Place);
     } else {
@@ -162,7 +145,7 @@ void Weaver::AddUnlinker() {
     Unlinker* unlinker = NewUnlinker();
     const Phase* preselected = FirstSelectedPhase();
     if (Dialogs().EditUnlinker(*unlinker, preselected != nullptr ? preselected->id : 0) &&
-        Acceptable(*unlinker)) {
+        IsAcceptable(*this, *unlinker)) {
         undoManager.Push(std::make_unique<UR_AddNewUnlinkerCmd>(this, *unlinker));
     } else {
         RemoveObject(unlinker);

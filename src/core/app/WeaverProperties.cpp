@@ -1,5 +1,6 @@
 #include "app/Weaver.h"
 #include "document/TemplateDesc.h"
+#include "operations/Acceptance.h"
 #include "undo/UR_EditCommands.h"
 #include "undo/UR_EditPhaseCmd.h"
 
@@ -45,17 +46,17 @@ void Weaver::EditObjectProperties(EditorObject* object) {
         EditPhase(*phase);
     } else if (auto* unlinker = As<Unlinker>(object)) {
         EditWithDialog<Unlinker, UR_EditUnlinkerCmd>(*unlinker, [&](Unlinker& edited) {
-            return Dialogs().EditUnlinker(edited, 0) && Acceptable(edited);
+            return Dialogs().EditUnlinker(edited, 0) && IsAcceptable(*this, edited);
         });
         Repaint();
     } else if (auto* item = As<Case>(object)) {
         EditWithDialog<Case, UR_EditCaseCmd>(*item, [&](Case& edited) {
-            return Dialogs().EditCase(edited, {}) && Acceptable(edited);
+            return Dialogs().EditCase(edited, {}) && IsAcceptable(*this, edited);
         });
         Repaint();
     } else if (auto* found = As<Switch>(object)) {
         EditWithDialog<Switch, UR_EditSwitchCmd>(*found, [&](Switch& edited) {
-            return Dialogs().EditSwitch(edited, {}) && Acceptable(edited);
+            return Dialogs().EditSwitch(edited, {}) && IsAcceptable(*this, edited);
         });
         Repaint();
     } else if (auto* check = As<Check>(object)) {
@@ -67,7 +68,7 @@ void Weaver::EditObjectProperties(EditorObject* object) {
 
 void Weaver::EditPhase(Phase& phase) {
     auto command = std::make_unique<UR_EditPhaseCmd>(this, phase);
-    if (!Dialogs().EditPhase(phase) || !Acceptable(phase))
+    if (!Dialogs().EditPhase(phase) || !IsAcceptable(*this, phase))
         return;
     command->Complete(phase);
     undoManager.Push(std::move(command));

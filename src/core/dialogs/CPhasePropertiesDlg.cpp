@@ -5,7 +5,9 @@
 #include "dialogs/CAddBlocksDlg.h"
 #include "dialogs/GeometryAspectDlg.h"
 #include "dialogs/PhaseSubDialogs.h"
+#include "dialogs/Refuse.h"
 #include "document/TemplateDesc.h"
+#include "operations/Acceptance.h"
 
 namespace lw {
 
@@ -328,10 +330,8 @@ const char* CPhasePropertiesDlg::FirstFailedCheck() const {
 }
 
 bool CPhasePropertiesDlg::Ok(UserPrompts& prompts) {
-    if (const char* failure = FirstFailedCheck()) {
-        prompts.ShowMessage(failure, MessageIcon::Stop);
-        return false;
-    }
+    if (const char* failure = FirstFailedCheck())
+        return Refuse(prompts, failure);
     phase_.name = name;
     WriteBlocks();
     WriteGates();
@@ -403,8 +403,7 @@ void CPhasePropertiesDlg::WriteGeometry() {
 }
 
 bool CPhasePropertiesDlg::IsResultValid() const {
-    return !phase_.name.empty() && !weaver_.PhaseNameTaken(phase_.id, phase_.name) &&
-           !phase_.blocks.empty();
+    return IsAcceptable(weaver_, phase_);
 }
 
 } // namespace lw

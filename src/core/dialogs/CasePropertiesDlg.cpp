@@ -2,18 +2,11 @@
 
 #include "app/Weaver.h"
 #include "dialogs/MemberListEvents.h"
-
-#include <algorithm>
+#include "dialogs/Refuse.h"
+#include "objects/IdList.h"
+#include "operations/Acceptance.h"
 
 namespace lw {
-
-namespace {
-
-bool Contains(const std::vector<std::int32_t>& ids, std::int32_t id) {
-    return std::find(ids.begin(), ids.end(), id) != ids.end();
-}
-
-} // namespace
 
 CasePropertiesDlg::CasePropertiesDlg(Weaver& weaver, Case& caseObject,
                                      const std::vector<std::int32_t>& firstMembers)
@@ -35,7 +28,7 @@ void CasePropertiesDlg::FillMembers(const std::vector<std::int32_t>& source) {
 
 void CasePropertiesDlg::FillCandidates(const std::vector<std::int32_t>& source) {
     weaver_.ForEach<Phase>([&](const Phase& phase) {
-        if (phase.caseId == 0 && !Contains(source, phase.id))
+        if (phase.caseId == 0 && !ContainsId(source, phase.id))
             candidateCombo.Add(phase.name);
     });
 }
@@ -58,23 +51,14 @@ const std::string* CasePropertiesDlg::MemberOfOtherCase() const {
 }
 
 bool CasePropertiesDlg::Ok(UserPrompts& prompts) {
-    if (name.empty()) {
-        prompts.ShowMessage("Name must not be empty!", MessageIcon::Stop);
-        return false;
-    }
-    if (weaver_.CaseNameTaken(caseObject_.id, name)) {
-        prompts.ShowMessage("Case name is used by other case!", MessageIcon::Stop);
-        return false;
-    }
-    if (memberList.Count() == 0) {
-        prompts.ShowMessage("Case must have at least one phase!", MessageIcon::Stop);
-        return false;
-    }
-    if (const std::string* held = MemberOfOtherCase()) {
-        prompts.ShowMessage("Phase \"" + *held + "\" already has connected case!",
-                            MessageIcon::Stop);
-        return false;
-    }
+    if (name.empty())
+        return Refuse(prompts, "Name must not be empty!");
+    if (weaver_.CaseNameTaken(caseObject_.id, name))
+        return Refuse(prompts, "Case name is used by other case!");
+    if (memberList.Count() == 0)
+        return Refuse(prompts, "Case must have at least one phase!");
+    if (const std::string* held = MemberOfOtherCase())
+        return Refuse(prompts, "Phase \"" + *held + "\" already has connected case!");
     WriteMembers();
     return true;
 }
@@ -96,8 +80,7 @@ void CasePropertiesDlg::WriteMembers() {
 }
 
 bool CasePropertiesDlg::IsResultValid() const {
-    return !caseObject_.phaseIds.empty() && !caseObject_.name.empty() &&
-           !weaver_.CaseNameTaken(caseObject_.id, caseObject_.name);
+    return IsAcceptable(weaver_, caseObject_);
 }
 
 } // namespace lw

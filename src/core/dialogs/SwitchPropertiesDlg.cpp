@@ -2,23 +2,11 @@
 
 #include "app/Weaver.h"
 #include "dialogs/MemberListEvents.h"
-
-#include <algorithm>
+#include "dialogs/Refuse.h"
+#include "objects/IdList.h"
+#include "operations/Acceptance.h"
 
 namespace lw {
-
-namespace {
-
-bool Contains(const std::vector<std::int32_t>& ids, std::int32_t id) {
-    return std::find(ids.begin(), ids.end(), id) != ids.end();
-}
-
-bool Refuse(UserPrompts& prompts, const std::string& message) {
-    prompts.ShowMessage(message, MessageIcon::Stop);
-    return false;
-}
-
-} // namespace
 
 SwitchPropertiesDlg::SwitchPropertiesDlg(Weaver& weaver, Switch& switchObject,
                                          const std::vector<std::int32_t>& firstMembers)
@@ -47,7 +35,7 @@ void SwitchPropertiesDlg::FillMembers(const std::vector<std::int32_t>& source) {
 
 void SwitchPropertiesDlg::FillCandidates(const std::vector<std::int32_t>& source) {
     weaver_.ForEach<Case>([&](const Case& candidate) {
-        if (candidate.switchId == 0 && !Contains(source, candidate.id))
+        if (candidate.switchId == 0 && !ContainsId(source, candidate.id))
             candidateCombo.Add(candidate.name);
     });
 }
@@ -121,11 +109,7 @@ void SwitchPropertiesDlg::WriteMembers() {
 }
 
 bool SwitchPropertiesDlg::IsResultValid() const {
-    return !switchObject_.name.empty() &&
-           !weaver_.SwitchNameTaken(switchObject_.id, switchObject_.name) &&
-           !switchObject_.caseIds.empty() &&
-           std::int64_t{switchObject_.number} <=
-               static_cast<std::int64_t>(switchObject_.caseIds.size());
+    return IsAcceptable(weaver_, switchObject_);
 }
 
 } // namespace lw

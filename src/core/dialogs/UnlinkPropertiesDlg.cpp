@@ -1,6 +1,8 @@
 #include "dialogs/UnlinkPropertiesDlg.h"
 
 #include "app/Weaver.h"
+#include "dialogs/Refuse.h"
+#include "operations/Acceptance.h"
 
 #include <string>
 #include <vector>
@@ -20,11 +22,6 @@ void MoveSelectedRows(ListField& from, ListField& to) {
         to.Add(from.At(*row));
         from.Remove(*row);
     }
-}
-
-bool Refuse(UserPrompts& prompts, const char* message) {
-    prompts.ShowMessage(message, MessageIcon::Stop);
-    return false;
 }
 
 } // namespace
@@ -127,9 +124,7 @@ void UnlinkPropertiesDlg::WriteGates() {
 }
 
 bool UnlinkPropertiesDlg::IsResultValid() const {
-    const EditorObject* phase = weaver_.FindObject(unlinker_.phaseId);
-    return unlinker_.phaseId != 0 && phase != nullptr && phase->GetKind() == ObjectKind::Phase &&
-           (!unlinker_.inputGates.empty() || !unlinker_.outputGates.empty());
+    return IsAcceptable(weaver_, unlinker_);
 }
 
 } // namespace lw

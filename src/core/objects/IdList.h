@@ -8,6 +8,10 @@ namespace lw {
 
 // Lists of object ids are kept as sets that keep their order: an id is
 // appended only when missing, and removal takes the first match only.
+inline bool ContainsId(const std::vector<std::int32_t>& ids, std::int32_t id) {
+    return std::find(ids.begin(), ids.end(), id) != ids.end();
+}
+
 inline void AppendIdIfAbsent(std::vector<std::int32_t>& ids, std::int32_t id) {
     if (std::find(ids.begin(), ids.end(), id) == ids.end())
         ids.push_back(id);
