@@ -2,6 +2,7 @@
 
 #include "objects/Link.h"
 #include "objects/Phase.h"
+#include "platform/UserPrompts.h"
 
 #include <array>
 #include <string>
@@ -37,6 +38,8 @@ public:
 
     // "Delete Selected Links".
     void OnDeleteSelected();
+    // OK only ends the dialog; the caller deletes what was chosen.
+    bool Ok(UserPrompts&) { return true; }
 
     std::vector<Row> linkView;
     std::vector<Link> toDelete;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/UserPrompts.h"
+
 #include <string>
 
 namespace lw {
@@ -11,6 +13,9 @@ public:
 
     // An empty title shows the default one.
     InputStringDlg(std::string title, std::string text);
+
+    // Any text will do, an empty one too.
+    bool Ok(UserPrompts&) { return true; }
 
     std::string text;
     std::string title;

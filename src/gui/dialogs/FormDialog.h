@@ -1,6 +1,10 @@
 #pragma once
 
+#include "QtText.h"
+#include "platform/UserPrompts.h"
+
 #include <QDialog>
+#include <string>
 
 class QDialogButtonBox;
 
@@ -36,4 +40,18 @@ protected:
 
 private:
     QDialogButtonBox* buttons_ = nullptr;
+};
+
+// The view of one form: OK is the form's own, with the prompts for its
+// messages.
+template <typename Form> class FormView : public FormDialog {
+public:
+    FormView(const std::string& title, Form& form, lw::UserPrompts& prompts, QWidget* parent)
+        : FormDialog(ToQString(title), parent), form_(form), prompts_(prompts) {}
+
+protected:
+    bool AcceptModel() override { return form_.Ok(prompts_); }
+
+    Form& form_;
+    lw::UserPrompts& prompts_;
 };

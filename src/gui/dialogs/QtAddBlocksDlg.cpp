@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 QtAddBlocksDlg::QtAddBlocksDlg(lw::CAddBlocksDlg& form, lw::UserPrompts& prompts, QWidget* parent)
-    : FormDialog(ToQString(lw::CAddBlocksDlg::kTitle), parent), form_(form), prompts_(prompts) {
+    : FormView(lw::CAddBlocksDlg::kTitle, form, prompts, parent) {
     blockList_ = new QListWidget(this);
     blockList_->setObjectName("blockList");
 
@@ -24,8 +24,4 @@ void QtAddBlocksDlg::TakeWidgets() {
 
 void QtAddBlocksDlg::ShowModel() {
     ShowList(blockList_, form_.blockList);
-}
-
-bool QtAddBlocksDlg::AcceptModel() {
-    return form_.Ok(prompts_);
 }

@@ -7,7 +7,7 @@ class QListWidget;
 
 // The view of "Add Blocks": the blocks that fit the main block, any number
 // of them to choose.
-class QtAddBlocksDlg : public FormDialog {
+class QtAddBlocksDlg : public FormView<lw::CAddBlocksDlg> {
     Q_OBJECT
 
 public:
@@ -16,10 +16,7 @@ public:
 protected:
     void TakeWidgets() override;
     void ShowModel() override;
-    bool AcceptModel() override;
 
 private:
-    lw::CAddBlocksDlg& form_;
-    lw::UserPrompts& prompts_;
     QListWidget* blockList_ = nullptr;
 };

@@ -10,7 +10,7 @@
 #include <QVBoxLayout>
 
 QtAddNewLinkDlg::QtAddNewLinkDlg(lw::AddNewLinkDlg& form, lw::UserPrompts& prompts, QWidget* parent)
-    : FormDialog(ToQString(form.title), parent), form_(form), prompts_(prompts) {
+    : FormView(form.title, form, prompts, parent) {
     fromName_ = new QLineEdit(this);
     fromName_->setObjectName("fromName");
     fromName_->setReadOnly(true);
@@ -43,8 +43,4 @@ void QtAddNewLinkDlg::ShowModel() {
     ShowCombo(fromCombo_, form_.fromCombo);
     toName_->setText(ToQString(form_.toName));
     ShowCombo(toCombo_, form_.toCombo);
-}
-
-bool QtAddNewLinkDlg::AcceptModel() {
-    return form_.Ok(prompts_);
 }

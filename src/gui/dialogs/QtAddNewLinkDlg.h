@@ -7,7 +7,7 @@ class QComboBox;
 class QLineEdit;
 
 // The view of the dialog that picks the gates of a new link.
-class QtAddNewLinkDlg : public FormDialog {
+class QtAddNewLinkDlg : public FormView<lw::AddNewLinkDlg> {
     Q_OBJECT
 
 public:
@@ -16,11 +16,8 @@ public:
 protected:
     void TakeWidgets() override;
     void ShowModel() override;
-    bool AcceptModel() override;
 
 private:
-    lw::AddNewLinkDlg& form_;
-    lw::UserPrompts& prompts_;
     QLineEdit* fromName_ = nullptr;
     QComboBox* fromCombo_ = nullptr;
     QLineEdit* toName_ = nullptr;

@@ -12,8 +12,7 @@
 
 QtAzimuthAdditionalDlg::QtAzimuthAdditionalDlg(lw::AzimuthAdditionalDlg& form,
                                                lw::UserPrompts& prompts, QWidget* parent)
-    : FormDialog(ToQString(lw::AzimuthAdditionalDlg::kTitle), parent), form_(form),
-      prompts_(prompts) {
+    : FormView(lw::AzimuthAdditionalDlg::kTitle, form, prompts, parent) {
     fromServer_ = new QCheckBox(tr("Get Parameters from Server"), this);
     fromServer_->setObjectName("fromServer");
     aspectCombo_ = new QComboBox(this);
@@ -56,8 +55,4 @@ void QtAzimuthAdditionalDlg::ShowModel() {
     ShowNumber(aspectValue_, form_.aspectValue);
     ShowNumber(range_, form_.range);
     ShowNumber(azimuth_, form_.azimuth);
-}
-
-bool QtAzimuthAdditionalDlg::AcceptModel() {
-    return form_.Ok(prompts_);
 }

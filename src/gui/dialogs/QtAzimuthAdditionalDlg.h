@@ -8,7 +8,7 @@ class QComboBox;
 class QLineEdit;
 
 // The view of "Azimuth Additional Parameters".
-class QtAzimuthAdditionalDlg : public FormDialog {
+class QtAzimuthAdditionalDlg : public FormView<lw::AzimuthAdditionalDlg> {
     Q_OBJECT
 
 public:
@@ -18,11 +18,8 @@ public:
 protected:
     void TakeWidgets() override;
     void ShowModel() override;
-    bool AcceptModel() override;
 
 private:
-    lw::AzimuthAdditionalDlg& form_;
-    lw::UserPrompts& prompts_;
     QCheckBox* fromServer_ = nullptr;
     QComboBox* aspectCombo_ = nullptr;
     QLineEdit* aspectValue_ = nullptr;

@@ -14,7 +14,7 @@
 
 QtCasePropertiesDlg::QtCasePropertiesDlg(lw::CasePropertiesDlg& form, lw::UserPrompts& prompts,
                                          QWidget* parent)
-    : FormDialog(ToQString(lw::CasePropertiesDlg::kTitle), parent), form_(form), prompts_(prompts) {
+    : FormView(lw::CasePropertiesDlg::kTitle, form, prompts, parent) {
     auto* removeButton = new QPushButton(tr("Remove Phases"), this);
     removeButton->setObjectName("removeButton");
     memberList_ = new QListWidget(this);
@@ -54,8 +54,4 @@ void QtCasePropertiesDlg::ShowModel() {
     ShowList(memberList_, form_.memberList);
     ShowCombo(candidateCombo_, form_.candidateCombo);
     name_->setText(ToQString(form_.name));
-}
-
-bool QtCasePropertiesDlg::AcceptModel() {
-    return form_.Ok(prompts_);
 }

@@ -9,7 +9,7 @@ class QListWidget;
 
 // The view of "Case Properties": the members under "Remove Phases", the
 // candidates beside "Add phase", then the name.
-class QtCasePropertiesDlg : public FormDialog {
+class QtCasePropertiesDlg : public FormView<lw::CasePropertiesDlg> {
     Q_OBJECT
 
 public:
@@ -19,11 +19,8 @@ public:
 protected:
     void TakeWidgets() override;
     void ShowModel() override;
-    bool AcceptModel() override;
 
 private:
-    lw::CasePropertiesDlg& form_;
-    lw::UserPrompts& prompts_;
     QListWidget* memberList_ = nullptr;
     QComboBox* candidateCombo_ = nullptr;
     QLineEdit* name_ = nullptr;

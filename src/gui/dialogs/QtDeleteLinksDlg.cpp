@@ -9,9 +9,9 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-// OK only ends the dialog, so it has no use for the prompts.
-QtDeleteLinksDlg::QtDeleteLinksDlg(lw::DeleteLinksDlg& form, lw::UserPrompts&, QWidget* parent)
-    : FormDialog(ToQString(lw::DeleteLinksDlg::kTitle), parent), form_(form) {
+QtDeleteLinksDlg::QtDeleteLinksDlg(lw::DeleteLinksDlg& form, lw::UserPrompts& prompts,
+                                   QWidget* parent)
+    : FormView(lw::DeleteLinksDlg::kTitle, form, prompts, parent) {
     linkView_ = new QTableWidget(this);
     linkView_->setObjectName("linkView");
     linkView_->setShowGrid(true);
@@ -58,8 +58,4 @@ void QtDeleteLinksDlg::ShowModel() {
         for (int column = 0; column < linkView_->columnCount(); ++column)
             linkView_->item(row, column)->setSelected(shown.selected);
     }
-}
-
-bool QtDeleteLinksDlg::AcceptModel() {
-    return true;
 }

@@ -8,7 +8,7 @@ class QTableWidget;
 
 // The view of "Delete Links connected to phase": a table of the links at the
 // phase, one whole row each.
-class QtDeleteLinksDlg : public FormDialog {
+class QtDeleteLinksDlg : public FormView<lw::DeleteLinksDlg> {
     Q_OBJECT
 
 public:
@@ -17,11 +17,9 @@ public:
 protected:
     void TakeWidgets() override;
     void ShowModel() override;
-    bool AcceptModel() override;
 
 private:
     void MakeColumns();
 
-    lw::DeleteLinksDlg& form_;
     QTableWidget* linkView_ = nullptr;
 };

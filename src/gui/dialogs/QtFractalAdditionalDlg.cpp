@@ -11,8 +11,7 @@
 
 QtFractalAdditionalDlg::QtFractalAdditionalDlg(lw::CFractalAdditionalDlg& form,
                                                lw::UserPrompts& prompts, QWidget* parent)
-    : FormDialog(ToQString(lw::CFractalAdditionalDlg::kTitle), parent), form_(form),
-      prompts_(prompts) {
+    : FormView(lw::CFractalAdditionalDlg::kTitle, form, prompts, parent) {
     aspectCombo_ = new QComboBox(this);
     aspectCombo_->setObjectName("aspectCombo");
     aspectValue_ = new QLineEdit(this);
@@ -48,8 +47,4 @@ void QtFractalAdditionalDlg::ShowModel() {
     ShowNumber(aspectValue_, form_.aspectValue);
     ShowNumber(deviation_, form_.deviation);
     ShowCombo(typeCombo_, form_.typeCombo);
-}
-
-bool QtFractalAdditionalDlg::AcceptModel() {
-    return form_.Ok(prompts_);
 }

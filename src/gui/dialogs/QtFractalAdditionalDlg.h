@@ -7,7 +7,7 @@ class QComboBox;
 class QLineEdit;
 
 // The view of "Fractal Additional Parameters".
-class QtFractalAdditionalDlg : public FormDialog {
+class QtFractalAdditionalDlg : public FormView<lw::CFractalAdditionalDlg> {
     Q_OBJECT
 
 public:
@@ -17,11 +17,8 @@ public:
 protected:
     void TakeWidgets() override;
     void ShowModel() override;
-    bool AcceptModel() override;
 
 private:
-    lw::CFractalAdditionalDlg& form_;
-    lw::UserPrompts& prompts_;
     QComboBox* aspectCombo_ = nullptr;
     QLineEdit* aspectValue_ = nullptr;
     QLineEdit* deviation_ = nullptr;

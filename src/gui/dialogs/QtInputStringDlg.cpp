@@ -6,9 +6,9 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-// The dialog makes no checks, so it has no use for the prompts.
-QtInputStringDlg::QtInputStringDlg(lw::InputStringDlg& form, lw::UserPrompts&, QWidget* parent)
-    : FormDialog(ToQString(form.title), parent), form_(form) {
+QtInputStringDlg::QtInputStringDlg(lw::InputStringDlg& form, lw::UserPrompts& prompts,
+                                   QWidget* parent)
+    : FormView(form.title, form, prompts, parent) {
     text_ = new QLineEdit(this);
     text_->setObjectName("text");
     auto* layout = new QVBoxLayout(this);
@@ -24,8 +24,4 @@ void QtInputStringDlg::TakeWidgets() {
 
 void QtInputStringDlg::ShowModel() {
     text_->setText(ToQString(form_.text));
-}
-
-bool QtInputStringDlg::AcceptModel() {
-    return true;
 }

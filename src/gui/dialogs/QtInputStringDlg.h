@@ -7,7 +7,7 @@
 class QLineEdit;
 
 // The view of the dialog that asks for one line of text.
-class QtInputStringDlg : public FormDialog {
+class QtInputStringDlg : public FormView<lw::InputStringDlg> {
     Q_OBJECT
 
 public:
@@ -16,9 +16,7 @@ public:
 protected:
     void TakeWidgets() override;
     void ShowModel() override;
-    bool AcceptModel() override;
 
 private:
-    lw::InputStringDlg& form_;
     QLineEdit* text_ = nullptr;
 };

@@ -11,7 +11,7 @@
 
 QtLineAdditionalDlg::QtLineAdditionalDlg(lw::LineAdditionalDlg& form, lw::UserPrompts& prompts,
                                          QWidget* parent)
-    : FormDialog(ToQString(lw::LineAdditionalDlg::kTitle), parent), form_(form), prompts_(prompts) {
+    : FormView(lw::LineAdditionalDlg::kTitle, form, prompts, parent) {
     aspectCombo_ = new QComboBox(this);
     aspectCombo_->setObjectName("aspectCombo");
     aspectValue_ = new QLineEdit(this);
@@ -48,8 +48,4 @@ void QtLineAdditionalDlg::ShowModel() {
     ShowNumber(aspectValue_, form_.aspectValue);
     ShowNumber(offset_, form_.offset);
     ShowNumber(deflection_, form_.deflection);
-}
-
-bool QtLineAdditionalDlg::AcceptModel() {
-    return form_.Ok(prompts_);
 }

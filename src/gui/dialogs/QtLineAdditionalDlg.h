@@ -7,7 +7,7 @@ class QComboBox;
 class QLineEdit;
 
 // The view of "Line Additional Parameters".
-class QtLineAdditionalDlg : public FormDialog {
+class QtLineAdditionalDlg : public FormView<lw::LineAdditionalDlg> {
     Q_OBJECT
 
 public:
@@ -17,11 +17,8 @@ public:
 protected:
     void TakeWidgets() override;
     void ShowModel() override;
-    bool AcceptModel() override;
 
 private:
-    lw::LineAdditionalDlg& form_;
-    lw::UserPrompts& prompts_;
     QComboBox* aspectCombo_ = nullptr;
     QLineEdit* aspectValue_ = nullptr;
     QLineEdit* offset_ = nullptr;

@@ -27,8 +27,7 @@ template <typename Widget> Widget* Named(Widget* widget, const char* name) {
 QtPhasePropertiesDlg::QtPhasePropertiesDlg(lw::CPhasePropertiesDlg& form,
                                            lw::PhaseSubDialogs& subDialogs,
                                            lw::UserPrompts& prompts, QWidget* parent)
-    : FormDialog(ToQString(lw::CPhasePropertiesDlg::kTitle), parent), form_(form),
-      subDialogs_(subDialogs), prompts_(prompts) {
+    : FormView(lw::CPhasePropertiesDlg::kTitle, form, prompts, parent), subDialogs_(subDialogs) {
     MakeWidgets();
 
     auto* nameRow = new QFormLayout;
@@ -166,8 +165,4 @@ void QtPhasePropertiesDlg::ShowModel() {
     ShowCombo(primaryCombo_, form_.primaryCombo);
     ShowCombo(secondaryCombo_, form_.secondaryCombo);
     moreParametersButton_->setEnabled(form_.moreParametersEnabled);
-}
-
-bool QtPhasePropertiesDlg::AcceptModel() {
-    return form_.Ok(prompts_);
 }

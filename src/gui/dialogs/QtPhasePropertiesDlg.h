@@ -15,7 +15,7 @@ class QRadioButton;
 // colour; the main block or the folder in one place; the gates of the main
 // block; the additional block sets; the generation with its allocation and
 // links; and the geometry parameters, which open a dialog of their own.
-class QtPhasePropertiesDlg : public FormDialog {
+class QtPhasePropertiesDlg : public FormView<lw::CPhasePropertiesDlg> {
     Q_OBJECT
 
 public:
@@ -25,7 +25,6 @@ public:
 protected:
     void TakeWidgets() override;
     void ShowModel() override;
-    bool AcceptModel() override;
 
 private:
     void MakeWidgets();
@@ -33,9 +32,7 @@ private:
     QGridLayout* GenerationFields();
     void ConnectEvents();
 
-    lw::CPhasePropertiesDlg& form_;
     lw::PhaseSubDialogs& subDialogs_;
-    lw::UserPrompts& prompts_;
     QLineEdit* name_ = nullptr;
     QRadioButton* mainBlockRadio_ = nullptr;
     QRadioButton* folderRadio_ = nullptr;

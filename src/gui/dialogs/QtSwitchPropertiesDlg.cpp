@@ -18,8 +18,7 @@
 
 QtSwitchPropertiesDlg::QtSwitchPropertiesDlg(lw::SwitchPropertiesDlg& form,
                                              lw::UserPrompts& prompts, QWidget* parent)
-    : FormDialog(ToQString(lw::SwitchPropertiesDlg::kTitle), parent), form_(form),
-      prompts_(prompts) {
+    : FormView(lw::SwitchPropertiesDlg::kTitle, form, prompts, parent) {
     number_ = new QLineEdit(this);
     number_->setObjectName("number");
     auto* removeButton = new QPushButton(tr("Remove Case"), this);
@@ -113,8 +112,4 @@ void QtSwitchPropertiesDlg::ShowPlaneType() {
     }
     for (QAbstractButton* radio : planeType_->buttons())
         radio->setEnabled(form_.planeTypeEnabled);
-}
-
-bool QtSwitchPropertiesDlg::AcceptModel() {
-    return form_.Ok(prompts_);
 }

@@ -12,7 +12,7 @@ class QRadioButton;
 // The view of "Switch properties": the number, the member cases with
 // "Remove Case", the candidates beside "Add Case", the preliminary check,
 // the plane type and the name.
-class QtSwitchPropertiesDlg : public FormDialog {
+class QtSwitchPropertiesDlg : public FormView<lw::SwitchPropertiesDlg> {
     Q_OBJECT
 
 public:
@@ -22,14 +22,11 @@ public:
 protected:
     void TakeWidgets() override;
     void ShowModel() override;
-    bool AcceptModel() override;
 
 private:
     QWidget* MakePlaneTypeGroup();
     void ShowPlaneType();
 
-    lw::SwitchPropertiesDlg& form_;
-    lw::UserPrompts& prompts_;
     QLineEdit* number_ = nullptr;
     QListWidget* memberList_ = nullptr;
     QComboBox* candidateCombo_ = nullptr;

@@ -14,8 +14,7 @@
 
 QtUnlinkPropertiesDlg::QtUnlinkPropertiesDlg(lw::UnlinkPropertiesDlg& form,
                                              lw::UserPrompts& prompts, QWidget* parent)
-    : FormDialog(ToQString(lw::UnlinkPropertiesDlg::kTitle), parent), form_(form),
-      prompts_(prompts) {
+    : FormView(lw::UnlinkPropertiesDlg::kTitle, form, prompts, parent) {
     phaseCombo_ = new QComboBox(this);
     phaseCombo_->setObjectName("phaseCombo");
     auto* phaseRow = new QFormLayout;
@@ -80,8 +79,4 @@ void QtUnlinkPropertiesDlg::ShowModel() {
     ShowList(unlinkList_, form_.unlinkList);
     moveToUnlinkButton_->setEnabled(form_.moveToUnlinkEnabled);
     moveBackButton_->setEnabled(form_.moveBackEnabled);
-}
-
-bool QtUnlinkPropertiesDlg::AcceptModel() {
-    return form_.Ok(prompts_);
 }

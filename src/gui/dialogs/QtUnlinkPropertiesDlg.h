@@ -9,7 +9,7 @@ class QPushButton;
 
 // The view of "Unlink properties (unlink non-player gates)": the phase on
 // top, below it the phase's gates, ">>>" and "<<<", and the gates to unlink.
-class QtUnlinkPropertiesDlg : public FormDialog {
+class QtUnlinkPropertiesDlg : public FormView<lw::UnlinkPropertiesDlg> {
     Q_OBJECT
 
 public:
@@ -19,13 +19,10 @@ public:
 protected:
     void TakeWidgets() override;
     void ShowModel() override;
-    bool AcceptModel() override;
 
 private:
     QLayout* MakeGateLists();
 
-    lw::UnlinkPropertiesDlg& form_;
-    lw::UserPrompts& prompts_;
     QComboBox* phaseCombo_ = nullptr;
     QListWidget* gateList_ = nullptr;
     QListWidget* unlinkList_ = nullptr;
