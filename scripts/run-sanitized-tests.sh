@@ -5,7 +5,7 @@
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 SANITIZED_DIR="$REPO_ROOT/build-sanitized"
-SANITIZED_SUITES=(undo_tests operations_tests app_tests)
+SANITIZED_SUITES=(undo_tests operations_tests app_tests dialogs_tests)
 
 install_missing_packages
 say "Configuring the sanitized build into $SANITIZED_DIR"
