@@ -6,6 +6,7 @@
 #include "dialogs/GeometryAspectDlg.h"
 #include "dialogs/PhaseSubDialogs.h"
 #include "dialogs/Refuse.h"
+#include "document/Keywords.h"
 #include "document/TemplateDesc.h"
 #include "operations/Acceptance.h"
 
@@ -41,15 +42,14 @@ std::string BaseName(const std::string& reference) {
 
 } // namespace
 
+// The combo's index is the type, so the labels go in in type order.
 const std::vector<std::string>& CPhasePropertiesDlg::GenerationTypeNames() {
-    static const std::vector<std::string> names = {"At",
-                                                   "Azimuth",
-                                                   "Fractal",
-                                                   "Line",
-                                                   "Random",
-                                                   "Server Set Pos",
-                                                   "Server Set Waypoint",
-                                                   "Server Target Pos"};
+    static const std::vector<std::string> names = [] {
+        std::vector<std::string> labels;
+        for (std::int32_t type = 0; type < kGenerationTypeCount; ++type)
+            labels.push_back(generationTypeLabel(static_cast<GenerationType>(type)));
+        return labels;
+    }();
     return names;
 }
 
