@@ -1,13 +1,12 @@
 #pragma once
 
-#include "dialogs/FormDialog.h"
-#include "dialogs/GeometryAspectDlg.h"
+#include "QtGeometryAspectDlg.h"
 
 class QComboBox;
 class QLineEdit;
 
 // The view of "Fractal Additional Parameters".
-class QtFractalAdditionalDlg : public FormView<lw::CFractalAdditionalDlg> {
+class QtFractalAdditionalDlg : public QtGeometryAspectDlg {
     Q_OBJECT
 
 public:
@@ -19,8 +18,7 @@ protected:
     void ShowModel() override;
 
 private:
-    QComboBox* aspectCombo_ = nullptr;
-    QLineEdit* aspectValue_ = nullptr;
+    lw::CFractalAdditionalDlg& fractal_;
     QLineEdit* deviation_ = nullptr;
     QComboBox* typeCombo_ = nullptr;
 };

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "dialogs/FormDialog.h"
-#include "dialogs/GeometryAspectDlg.h"
+#include "QtGeometryAspectDlg.h"
 
-class QComboBox;
 class QLineEdit;
 
 // The view of "Line Additional Parameters".
-class QtLineAdditionalDlg : public FormView<lw::LineAdditionalDlg> {
+class QtLineAdditionalDlg : public QtGeometryAspectDlg {
     Q_OBJECT
 
 public:
@@ -19,8 +17,7 @@ protected:
     void ShowModel() override;
 
 private:
-    QComboBox* aspectCombo_ = nullptr;
-    QLineEdit* aspectValue_ = nullptr;
+    lw::LineAdditionalDlg& line_;
     QLineEdit* offset_ = nullptr;
     QLineEdit* deflection_ = nullptr;
 };
