@@ -334,11 +334,12 @@ bool CPhasePropertiesDlg::Ok(UserPrompts& prompts) {
         return Refuse(prompts, failure);
     phase_.name = name;
     WriteBlocks();
-    WriteGates();
+    const BlockInfo mainBlock = weaver_.blockPool.GetBlock(mainBlockCombo.Text());
+    WriteGates(mainBlock);
     phase_.generationType = Generation();
     WriteAllocation();
     WriteLinks();
-    WriteBlockProperties();
+    WriteBlockProperties(mainBlock);
     WriteGeometry();
     const int color = colorCombo.Current();
     if (color >= 0)
@@ -355,8 +356,7 @@ void CPhasePropertiesDlg::WriteBlocks() {
 
 // The gates come from the main block alone, all open; an unknown block
 // leaves the phase without gates.
-void CPhasePropertiesDlg::WriteGates() {
-    const BlockInfo info = weaver_.blockPool.GetBlock(mainBlockCombo.Text());
+void CPhasePropertiesDlg::WriteGates(const BlockInfo& info) {
     phase_.inputs.clear();
     phase_.outputs.clear();
     for (const std::string& input : info.inputs)
@@ -366,8 +366,7 @@ void CPhasePropertiesDlg::WriteGates() {
 }
 
 // A phase that has object properties already keeps them.
-void CPhasePropertiesDlg::WriteBlockProperties() {
-    const BlockInfo info = weaver_.blockPool.GetBlock(mainBlockCombo.Text());
+void CPhasePropertiesDlg::WriteBlockProperties(const BlockInfo& info) {
     if (phase_.blockProperties.empty() && !info.dynamics.empty())
         phase_.blockProperties = info.dynamics;
 }

@@ -9,6 +9,7 @@
 
 namespace lw {
 
+class BlockInfo;
 class Phase;
 class PhaseSubDialogs;
 class Weaver;
@@ -97,8 +98,8 @@ private:
     const char* FirstFailedCheck() const;
     template <typename Dialog> void RunGeometryDialog(PhaseSubDialogs& sub);
     void WriteBlocks();
-    void WriteGates();
-    void WriteBlockProperties();
+    void WriteGates(const BlockInfo& info);
+    void WriteBlockProperties(const BlockInfo& info);
     void WriteAllocation();
     void WriteLinks();
     void WriteGeometry();
