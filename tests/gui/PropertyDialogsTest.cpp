@@ -1,75 +1,14 @@
 #include "QtPropertyDialogs.h"
+#include "ScriptedDialogRunner.h"
 #include "app/CanvasInput.h"
 #include "support/SampleEditor.h"
 
-#include <QAbstractButton>
 #include <QComboBox>
-#include <QDialogButtonBox>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QTableWidget>
 #include <QtTest>
-#include <deque>
-#include <functional>
 
-namespace {
-
-// Fills each dialog in as a user would, from a queue of fillers in the order
-// the dialogs open; a dialog with no filler left is cancelled.
-class ScriptedRunner : public DialogRunner {
-public:
-    using Fill = std::function<void(QDialog&)>;
-
-    void Queue(Fill fill) { fills_.push_back(std::move(fill)); }
-
-    bool Run(QDialog& dialog) override {
-        titles.append(dialog.windowTitle());
-        dialog.show();
-        if (fills_.empty()) {
-            dialog.reject();
-            return false;
-        }
-        const Fill fill = std::move(fills_.front());
-        fills_.pop_front();
-        fill(dialog);
-        return dialog.result() == QDialog::Accepted && !dialog.isVisible();
-    }
-
-    QStringList titles;
-
-private:
-    std::deque<Fill> fills_;
-};
-
-template <typename Widget> Widget* Find(QDialog& dialog, const char* name) {
-    auto* widget = dialog.findChild<Widget*>(QString::fromLatin1(name));
-    if (widget == nullptr)
-        qFatal("no widget %s in %s", name, qPrintable(dialog.windowTitle()));
-    return widget;
-}
-
-void Choose(QDialog& dialog, const char* combo, const QString& text) {
-    auto* box = Find<QComboBox>(dialog, combo);
-    const int index = box->findText(text);
-    if (index < 0)
-        qFatal("no %s in %s", qPrintable(text), combo);
-    box->setCurrentIndex(index);
-}
-
-void Type(QDialog& dialog, const char* edit, const QString& text) {
-    Find<QLineEdit>(dialog, edit)->setText(text);
-}
-
-void Press(QDialog& dialog, const char* button) {
-    Find<QAbstractButton>(dialog, button)->click();
-}
-
-void PressOk(QDialog& dialog) {
-    dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
-}
-
-} // namespace
+using namespace lw::test;
 
 // The editor's creation and edit commands with the real dialogs: a template
 // made from nothing, edited again, undone and redone, saved as the dialogs
@@ -81,7 +20,7 @@ private slots:
     void init() {
         editor = std::make_unique<lw::test::SampleEditor>();
         editor->StartUp();
-        runner = std::make_unique<ScriptedRunner>();
+        runner = std::make_unique<ScriptedDialogRunner>();
         dialogs = std::make_unique<QtPropertyDialogs>(editor->weaver, editor->prompts, *runner);
         editor->weaver.SetPropertyDialogs(dialogs.get());
         input = std::make_unique<lw::CanvasInput>(editor->weaver);
@@ -264,13 +203,6 @@ private:
         return nullptr;
     }
 
-    static bool Contains(const std::string& text, const std::string& part) {
-        if (text.find(part) != std::string::npos)
-            return true;
-        qWarning("missing \"%s\" in:\n%s", part.c_str(), text.c_str());
-        return false;
-    }
-
     void ClickAt(int x, int y) {
         input->LeftDown(x, y, lw::kLeftButton);
         input->LeftUp(x, y, 0);
@@ -287,7 +219,7 @@ private:
     }
 
     std::unique_ptr<lw::test::SampleEditor> editor;
-    std::unique_ptr<ScriptedRunner> runner;
+    std::unique_ptr<ScriptedDialogRunner> runner;
     std::unique_ptr<QtPropertyDialogs> dialogs;
     std::unique_ptr<lw::CanvasInput> input;
     std::string linkText;
