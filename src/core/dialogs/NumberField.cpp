@@ -61,6 +61,13 @@ bool ReadInt(const NumberField& field, std::int32_t& value, UserPrompts& prompts
     return true;
 }
 
+void TakeIntUnchecked(const NumberField& field, std::int32_t& value) {
+    long long number = 0;
+    if (ParseWhole(field.text, number) && number >= std::numeric_limits<std::int32_t>::min() &&
+        number <= std::numeric_limits<std::int32_t>::max())
+        value = static_cast<std::int32_t>(number);
+}
+
 bool ReadFloat(const NumberField& field, float& value, UserPrompts& prompts) {
     const std::string trimmed = Trimmed(field.text);
     char* end = nullptr;

@@ -30,4 +30,10 @@ bool ReadInt(const NumberField& field, std::int32_t& value, UserPrompts& prompts
              std::int32_t max = std::numeric_limits<std::int32_t>::max());
 bool ReadFloat(const NumberField& field, float& value, UserPrompts& prompts);
 
+// The number of an edit as a dialog takes it before validating it: a whole
+// number is taken whatever the dialog's range, and text that is no number
+// leaves `value` as it was. Some editors write this into their object even
+// when the validation that follows refuses the edit.
+void TakeIntUnchecked(const NumberField& field, std::int32_t& value);
+
 } // namespace lw

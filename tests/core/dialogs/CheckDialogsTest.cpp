@@ -1,0 +1,320 @@
+#include "dialogs/CalendarDate.h"
+#include "dialogs/CheckCoalitionPropertiesDlg.h"
+#include "dialogs/CheckLocationTypePropertiesDlg.h"
+#include "dialogs/CheckRangePropertiesDlg.h"
+#include "dialogs/CheckSquadPropertiesDlg.h"
+#include "dialogs/CheckValuePropertiesDlg.h"
+#include "support/SampleEditor.h"
+
+#include <gtest/gtest.h>
+
+namespace lw {
+namespace {
+
+using Texts = std::vector<std::string>;
+using Status = CalendarDate::Status;
+
+class CheckDialogsTest : public ::testing::Test {
+protected:
+    void SetUp() override { e.StartUp(); }
+
+    Check& NewCheck(Texts params) {
+        Check& check = *e.weaver.NewCheck();
+        check.params = std::move(params);
+        return check;
+    }
+    // Each refused OK shows exactly one message under the stop icon.
+    void ExpectStops(const Texts& messages) {
+        ASSERT_EQ(e.prompts.MessageTexts(), messages);
+        for (const auto& shown : e.prompts.Log())
+            EXPECT_EQ(shown.icon, MessageIcon::Stop) << shown.text;
+    }
+
+    test::SampleEditor e;
+};
+
+TEST(CalendarDateTest, FormatsAndReadsTheDayMonthYearForm) {
+    EXPECT_EQ(FormatDate(kDefaultCalendarDate), "20.07.1917");
+    EXPECT_EQ(FormatDate({3, 4, 812, Status::Valid}), "03.04.812");
+    EXPECT_EQ(FormatDate({3, 4, 1918, Status::Invalid}), "Invalid DateTime");
+    EXPECT_EQ(FormatDate({3, 4, 1918, Status::Null}), "");
+
+    CalendarDate date;
+    ASSERT_TRUE(ReadDayMonthYear("1.2.1916", date));
+    EXPECT_EQ(date, (CalendarDate{1, 2, 1916, Status::Valid}));
+    EXPECT_TRUE(ReadDayMonthYear("29.02.1916", date));
+    for (const char* bad :
+         {"29.02.1917", "31.02.1917", "31.04.1917", "0.1.1917", "20.13.1917", "20.07.1917x",
+          " 20.07.1917", "20/07/1917", "20.07.", "200.7.1917", "20.07.19170", ""}) {
+        EXPECT_FALSE(ReadDayMonthYear(bad, date)) << bad;
+        EXPECT_EQ(date, (CalendarDate{29, 2, 1916, Status::Valid})) << bad;
+    }
+}
+
+TEST_F(CheckDialogsTest, SquadRoundTrip) {
+    Check& check = NewCheck({"12", "03.04.1918"});
+    CheckSquadPropertiesDlg dlg(e.weaver, check);
+    EXPECT_FALSE(dlg.usePlayerSquad || dlg.useServerDate);
+    EXPECT_EQ(dlg.squadId.text, "12");
+    EXPECT_EQ(dlg.date, (CalendarDate{3, 4, 1918, Status::Valid}));
+    dlg.squadId.text = "7";
+    dlg.date.day = 9;
+    ASSERT_TRUE(dlg.Ok(e.prompts));
+    EXPECT_EQ(check.params, (Texts{"7", "09.04.1918"}));
+    EXPECT_TRUE(dlg.IsResultValid());
+
+    CheckSquadPropertiesDlg again(e.weaver, check);
+    EXPECT_EQ(again.squadId.text, "7");
+    EXPECT_EQ(again.date, dlg.date);
+    again.usePlayerSquad = again.useServerDate = true;
+    ASSERT_TRUE(again.Ok(e.prompts));
+    EXPECT_EQ(check.params, (Texts{"$playersquad", "$date"}));
+}
+
+TEST_F(CheckDialogsTest, SquadOkChecksInOrderThenWritesBeforeTheRangeCheck) {
+    Check& check = NewCheck({"$playersquad", "$date"});
+    CheckSquadPropertiesDlg dlg(e.weaver, check);
+    dlg.usePlayerSquad = dlg.useServerDate = false;
+    dlg.date.status = Status::Invalid;
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    dlg.squadId.text = "5";
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    ExpectStops({"Squad ID must be set (can't be zero)!", "Invalid Date!"});
+    EXPECT_EQ(check.params, (Texts{"$playersquad", "$date"}));
+
+    // Out of range: refused with the dialog open, yet already written.
+    dlg.date = kDefaultCalendarDate;
+    dlg.squadId.text = "1000001";
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    EXPECT_EQ(e.prompts.MessageTexts().back(), "Please enter a whole number from 0 to 1000000.");
+    EXPECT_EQ(check.params, (Texts{"1000001", "20.07.1917"}));
+}
+
+TEST_F(CheckDialogsTest, SquadOneIsAcceptedByOkButNotAValidResult) {
+    Check& check = NewCheck({});
+    CheckSquadPropertiesDlg dlg(e.weaver, check);
+    // An empty check opens on the player's squad and the server's date.
+    EXPECT_TRUE(dlg.usePlayerSquad && dlg.useServerDate);
+    EXPECT_FALSE(dlg.squadId.enabled || dlg.dateShown);
+    EXPECT_EQ(dlg.date, kDefaultCalendarDate);
+    dlg.usePlayerSquad = false;
+    dlg.squadId.text = "1";
+    ASSERT_TRUE(dlg.Ok(e.prompts));
+    EXPECT_EQ(check.params, (Texts{"1", "$date"}));
+    EXPECT_FALSE(dlg.IsResultValid());
+
+    const std::vector<std::pair<Texts, bool>> results = {{{"2", "$date"}, true},
+                                                         {{"$playersquad", "20.07.1917"}, true},
+                                                         {{"$playersquad", "soon"}, false},
+                                                         {{"$playersquad"}, false},
+                                                         {{"2", "$date", "x"}, false},
+                                                         {{"0", "$date"}, false}};
+    for (const auto& [params, valid] : results) {
+        check.params = params;
+        EXPECT_EQ(dlg.IsResultValid(), valid) << params[0];
+    }
+}
+
+TEST_F(CheckDialogsTest, SquadUnparsableDateOpensOnTheDefaultDay) {
+    Check& check = NewCheck({"$playersquad", "20th of July"});
+    CheckSquadPropertiesDlg dlg(e.weaver, check);
+    EXPECT_FALSE(dlg.useServerDate);
+    EXPECT_TRUE(dlg.dateShown);
+    EXPECT_EQ(dlg.date, kDefaultCalendarDate);
+    ASSERT_TRUE(dlg.Ok(e.prompts));
+    EXPECT_EQ(check.params[1], "20.07.1917");
+
+    // The reader given is used both to open and to judge the result.
+    check.params[1] = "20th of July";
+    const DateReader lenient = [](const std::string&, CalendarDate& date) {
+        date = {1, 1, 1918, Status::Valid};
+        return true;
+    };
+    CheckSquadPropertiesDlg read(e.weaver, check, lenient);
+    EXPECT_EQ(read.date, (CalendarDate{1, 1, 1918, Status::Valid}));
+    EXPECT_TRUE(read.IsResultValid());
+}
+
+TEST_F(CheckDialogsTest, LocationTypeStartShowsTheTypesBoxes) {
+    CheckLocationTypePropertiesDlg dlg(e.weaver, NewCheck({"Airfield"}));
+    EXPECT_EQ(dlg.typeCombo.Texts(),
+              (Texts{"Airfield", "AirObjective", "Decoration", "GroundObjective", "Navigation",
+                     "ReferenceLocation", "GroundBase"}));
+    EXPECT_EQ(dlg.typeCombo.Current(), 0);
+    EXPECT_EQ(dlg.boxes[1].caption, "WaterField");
+    EXPECT_TRUE(dlg.boxes[1].shown);
+    EXPECT_FALSE(dlg.boxes[2].shown);
+    EXPECT_EQ(dlg.boxes[2].caption, "Check3");
+    EXPECT_EQ(dlg.boxes[22].caption, "Check23");
+
+    CheckLocationTypePropertiesDlg none(e.weaver, NewCheck({}));
+    EXPECT_EQ(none.typeCombo.Current(), -1);
+    for (const auto& box : none.boxes)
+        EXPECT_FALSE(box.shown || box.ticked);
+}
+
+TEST_F(CheckDialogsTest, LocationTypeOkChecksInOrder) {
+    Check& check = NewCheck({});
+    CheckLocationTypePropertiesDlg dlg(e.weaver, check);
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    dlg.typeCombo.SetCurrent(4);
+    dlg.OnTypeChanged();
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    ExpectStops({"Select Location Type!", "Select at least one check box!"});
+    EXPECT_TRUE(check.params.empty());
+
+    dlg.typeCombo.SetCurrent(0);
+    dlg.OnTypeChanged();
+    ASSERT_TRUE(dlg.Ok(e.prompts));
+    EXPECT_EQ(check.params, Texts{"Airfield"});
+    EXPECT_TRUE(dlg.IsResultValid());
+}
+
+TEST_F(CheckDialogsTest, LocationTypeRoundTrip) {
+    Check& check = NewCheck({"GroundObjective", "Tank", "Vehicle"});
+    CheckLocationTypePropertiesDlg dlg(e.weaver, check);
+    EXPECT_TRUE(dlg.boxes[2].ticked && dlg.boxes[19].ticked);
+    dlg.boxes[2].ticked = false;
+    dlg.boxes[0].ticked = true;
+    ASSERT_TRUE(dlg.Ok(e.prompts));
+    EXPECT_EQ(check.params, (Texts{"GroundObjective", "Transport", "Vehicle"}));
+
+    CheckLocationTypePropertiesDlg again(e.weaver, check);
+    for (int i = 0; i < 23; ++i)
+        EXPECT_EQ(again.boxes[i].ticked, i == 0 || i == 19) << i;
+}
+
+TEST_F(CheckDialogsTest, LocationTypeChangeTicksOnlyWhatTheStoredParamsName) {
+    Check& check = NewCheck({"AirObjective", "Dogfight", "Balloon"});
+    CheckLocationTypePropertiesDlg dlg(e.weaver, check);
+    dlg.boxes[0].ticked = true;
+    dlg.typeCombo.SetCurrent(2);
+    dlg.OnTypeChanged();
+    EXPECT_EQ(dlg.boxes[7].caption, "Balloon");
+    for (int i = 0; i < 23; ++i)
+        EXPECT_EQ(dlg.boxes[i].ticked, i == 0 || i == 7) << i;
+}
+
+// Hidden boxes keep their captions and ticks, and OK writes them as well.
+TEST_F(CheckDialogsTest, LocationTypeHiddenBoxesAreTickedAndWritten) {
+    Check& check = NewCheck({"Decoration", "LandingSign"});
+    CheckLocationTypePropertiesDlg dlg(e.weaver, check);
+    dlg.typeCombo.SetCurrent(0);
+    dlg.OnTypeChanged();
+    EXPECT_FALSE(dlg.boxes[22].shown);
+    EXPECT_TRUE(dlg.boxes[22].ticked);
+    ASSERT_TRUE(dlg.Ok(e.prompts));
+    EXPECT_EQ(check.params, (Texts{"Airfield", "LandingSign"}));
+
+    Check& placeholder = NewCheck({"Airfield", "Check5"});
+    CheckLocationTypePropertiesDlg fresh(e.weaver, placeholder);
+    EXPECT_TRUE(fresh.boxes[4].ticked);
+}
+
+TEST_F(CheckDialogsTest, LocationTypeResultValidity) {
+    Check& check = NewCheck({});
+    CheckLocationTypePropertiesDlg dlg(e.weaver, check);
+    const std::vector<std::pair<Texts, bool>> results = {{{}, false},
+                                                         {{"Airfield"}, true},
+                                                         {{"Navigation"}, false},
+                                                         {{"Navigation", "River"}, true},
+                                                         {{"Harbour", "Port"}, false}};
+    for (const auto& [params, valid] : results) {
+        check.params = params;
+        EXPECT_EQ(dlg.IsResultValid(), valid) << params.size();
+    }
+}
+
+TEST_F(CheckDialogsTest, CoalitionWordRoundTrip) {
+    Check& check = NewCheck({"fen"});
+    CheckCoalitionPropertiesDlg dlg(e.weaver, check);
+    EXPECT_TRUE(dlg.friendly && dlg.enemy && dlg.neutral);
+    dlg.friendly = dlg.enemy = dlg.neutral = false;
+    ASSERT_TRUE(dlg.Ok(e.prompts));
+    EXPECT_TRUE(check.params.empty());
+    EXPECT_TRUE(dlg.IsResultValid());
+
+    check.params = {"nf"};
+    CheckCoalitionPropertiesDlg mixed(e.weaver, check);
+    EXPECT_TRUE(mixed.friendly && !mixed.enemy && mixed.neutral);
+    ASSERT_TRUE(mixed.Ok(e.prompts));
+    EXPECT_EQ(check.params, Texts{"fn"});
+    check.params.push_back("e");
+    EXPECT_FALSE(mixed.IsResultValid());
+}
+
+TEST_F(CheckDialogsTest, RangeNewCheckUsingTheParameter) {
+    Check& check = NewCheck({kPrimaryLinkPhase, "closest_outof", "1000"});
+    CheckRangePropertiesDlg dlg(e.weaver, check);
+    EXPECT_TRUE(dlg.closest && !dlg.useParameter && dlg.range.enabled);
+    EXPECT_EQ(dlg.range.text, "1000");
+    dlg.useParameter = true;
+    dlg.OnUseParameterClicked();
+    EXPECT_FALSE(dlg.range.enabled);
+    ASSERT_TRUE(dlg.Ok(e.prompts));
+    EXPECT_EQ(check.params, (Texts{kPrimaryLinkPhase, "closest_outof", "-1"}));
+
+    CheckRangePropertiesDlg again(e.weaver, check);
+    EXPECT_TRUE(again.closest && again.useParameter && !again.range.enabled);
+    again.closest = again.useParameter = false;
+    again.range.text = "250";
+    ASSERT_TRUE(again.Ok(e.prompts));
+    EXPECT_EQ(check.params, (Texts{kPrimaryLinkPhase, "at", "250"}));
+    EXPECT_TRUE(again.IsResultValid());
+    check.params.pop_back();
+    EXPECT_FALSE(again.IsResultValid());
+}
+
+// A refused range is written all the same; text that is no number writes the
+// number last read.
+TEST_F(CheckDialogsTest, RangeWritesWhatTheValidationRefuses) {
+    Check& check = NewCheck({kPrimaryLinkPhase, "at", "1000"});
+    CheckRangePropertiesDlg dlg(e.weaver, check);
+    dlg.range.text = "far";
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    EXPECT_EQ(check.params[2], "1000");
+    dlg.range.text = "1000001";
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    EXPECT_EQ(check.params[2], "1000001");
+    dlg.range.text = "far";
+    EXPECT_FALSE(dlg.Ok(e.prompts));
+    EXPECT_EQ(check.params[2], "1000001");
+    EXPECT_EQ(e.prompts.MessageTexts(),
+              Texts(3, "Please enter a whole number from -1 to 1000000."));
+
+    Check& empty = NewCheck({});
+    CheckRangePropertiesDlg fresh(e.weaver, empty);
+    ASSERT_TRUE(fresh.Ok(e.prompts));
+    EXPECT_EQ(empty.params, (Texts{"", "at", "0"}));
+}
+
+TEST_F(CheckDialogsTest, InRadiusAndInSectorRoundTripAndRanges) {
+    Check& radiusCheck = NewCheck({kPrimaryLinkPhase, "1000"});
+    CheckInRadiusPropertiesDlg radius(e.weaver, radiusCheck);
+    EXPECT_EQ(radius.radius.text, "1000");
+    radius.radius.text = "1000000";
+    ASSERT_TRUE(radius.Ok(e.prompts));
+    EXPECT_EQ(radiusCheck.params, (Texts{kPrimaryLinkPhase, "1000000"}));
+    EXPECT_EQ(CheckInRadiusPropertiesDlg(e.weaver, radiusCheck).radius.text, "1000000");
+    EXPECT_TRUE(radius.IsResultValid());
+
+    Check& sectorCheck = NewCheck({kPrimaryLinkPhase, "45"});
+    CheckInSectorPropertiesDlg sector(e.weaver, sectorCheck);
+    EXPECT_EQ(sector.arc.text, "45");
+    sector.arc.text = "360";
+    EXPECT_FALSE(sector.Ok(e.prompts));
+    EXPECT_EQ(e.prompts.MessageTexts(), Texts{"Please enter a whole number from 0 to 359."});
+    EXPECT_EQ(sectorCheck.params, (Texts{kPrimaryLinkPhase, "360"}));
+    sector.arc.text = "359";
+    EXPECT_TRUE(sector.Ok(e.prompts));
+
+    Check& single = NewCheck({kPrimaryLinkPhase});
+    CheckInSectorPropertiesDlg bare(e.weaver, single);
+    EXPECT_EQ(bare.arc.text, "0");
+    EXPECT_FALSE(bare.IsResultValid());
+    ASSERT_TRUE(bare.Ok(e.prompts));
+    EXPECT_EQ(single.params, (Texts{kPrimaryLinkPhase, "0"}));
+}
+
+} // namespace
+} // namespace lw
