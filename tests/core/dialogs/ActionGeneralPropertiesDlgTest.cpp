@@ -1,0 +1,183 @@
+#include "dialogs/ActionGeneralPropertiesDlg.h"
+
+#include "support/SampleEditor.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace lw {
+namespace {
+
+using Texts = std::vector<std::string>;
+using Rules = std::vector<ActionRule>;
+
+class ActionGeneralPropertiesDlgTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        e.StartUp();
+        action.name = "Fuel";
+    }
+
+    // Chooses the rule in the combo as the user would, by its exact name.
+    static void Choose(ActionGeneralPropertiesDlg& dialog, const std::string& name) {
+        const Texts offered = dialog.ruleCombo.Texts();
+        const auto found = std::find(offered.begin(), offered.end(), name);
+        dialog.ruleCombo.SetCurrent(found == offered.end() ? -1 : int(found - offered.begin()));
+        dialog.OnRuleChanged();
+    }
+
+    // Chooses, types and adds on a fresh dialog; answers its rules then.
+    Rules Add(const std::string& rule, const std::string& parameter = "",
+              const std::string& condition = "") {
+        ActionGeneralPropertiesDlg dialog(e.weaver, action);
+        Choose(dialog, rule);
+        dialog.parameter = parameter;
+        dialog.condition = condition;
+        dialog.OnAddRule(e.prompts);
+        return dialog.workingRules;
+    }
+
+    test::SampleEditor e;
+    Action& action = *e.weaver.NewAction();
+};
+
+TEST_F(ActionGeneralPropertiesDlgTest, HandMadeAndPropertyActionsAreOfferedDifferentRules) {
+    action.rules = {{"set_counter", {"Fuel", "3"}, "if(a>1); "}};
+    ActionGeneralPropertiesDlg handMade(e.weaver, action);
+    EXPECT_EQ(
+        handMade.ruleCombo.Texts(),
+        (Texts{"add_flag", "dawn_pack", "import_harbour_pack", "import_night_pack", "note_text",
+               "reserved_slot", "set_counter", "set_weather", "spawn_delay", "storm_pack"}));
+    EXPECT_EQ(handMade.ruleCombo.Current(), -1);
+    ASSERT_EQ(handMade.ruleList.size(), 1u);
+    EXPECT_EQ(handMade.ruleList[0].texts,
+              (std::array<std::string, 2>{"set_counter(Fuel,3);", "if(a>1); "}));
+
+    action.objectName = "fuel_load";
+    ActionGeneralPropertiesDlg fromProperty(e.weaver, action);
+    EXPECT_EQ(fromProperty.ruleCombo.Texts(),
+              (Texts{"formation_pack", "import_escort_pack", "import_raid_pack", "set_altitude",
+                     "set_fuel", "set_payload", "set_speed", "skill_pack"}));
+}
+
+TEST_F(ActionGeneralPropertiesDlgTest, PreviewFillsEveryPlaceholderAndIsStoredAsShown) {
+    ActionGeneralPropertiesDlg sample(e.weaver, action);
+    EXPECT_EQ(sample.BuildParameterText(), "");
+    Choose(sample, "spawn_delay");
+    sample.parameter = "30";
+    EXPECT_EQ(sample.BuildParameterText(), "spawn_delay(30, 30); ");
+
+    RuleDef rule;
+    rule.name = "set_value";
+    rule.format = "set_value($property, $value)";
+    e.weaver.ruleCatalogue.rules = {rule};
+    ActionGeneralPropertiesDlg dialog(e.weaver, action);
+    Choose(dialog, "set_value");
+    dialog.parameter = "50";
+    dialog.OnParameterChanged();
+    dialog.condition = "a > 1; b==2";
+    dialog.OnConditionChanged();
+    EXPECT_EQ(dialog.format, "set_value(Fuel, 50); if(a>1); if(b==2); ");
+
+    // The fields stay, so the same rule goes in twice.
+    dialog.OnAddRule(e.prompts);
+    dialog.OnAddRule(e.prompts);
+    const ActionRule stored{"set_value", {"Fuel", "50"}, "if(a>1); if(b==2); "};
+    EXPECT_EQ(dialog.workingRules, (Rules{stored, stored}));
+    EXPECT_EQ(dialog.ruleList[1].texts[0], "set_value(Fuel,50);");
+}
+
+TEST_F(ActionGeneralPropertiesDlgTest, ConditionKeepsOnlyPiecesWithAnOperator) {
+    ActionGeneralPropertiesDlg dialog(e.weaver, action);
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"", ""},
+        {"ready", ""},
+        {"a>1;", "if(a>1); "},
+        {"a>1;;ready; b <\t2;", "if(a>1); if(b<2); "},
+        {"a!=b;c>=d;e<=f;g==h", "if(a!=b); if(c>=d); if(e<=f); if(g==h); "},
+        {"<", ""},
+        {"<;", "if(<); "},
+    };
+    for (const auto& [typed, expected] : cases) {
+        dialog.condition = typed;
+        EXPECT_EQ(dialog.BuildConditionText(), expected) << typed;
+    }
+}
+
+TEST_F(ActionGeneralPropertiesDlgTest, PlainRulesTakeTheirParametersFromThePreview) {
+    // The import flag means nothing without the complex one.
+    EXPECT_EQ(Add("set_weather", "rain", "m>1"), (Rules{{"set_weather", {"rain"}, "if(m>1); "}}));
+    EXPECT_EQ(Add("spawn_delay", "30", "wave >= 2"),
+              (Rules{{"spawn_delay", {"30", "30"}, "if(wave>=2); "}}));
+    EXPECT_TRUE(e.prompts.Log().empty());
+
+    EXPECT_TRUE(Add("spawn_delay", "30").empty());
+    EXPECT_TRUE(Add("spawn_delay", "30", "ready; x").empty());
+    ASSERT_EQ(e.prompts.Log().size(), 2u);
+    EXPECT_EQ(e.prompts.Log()[1].text, "This rule needs condition!");
+    EXPECT_EQ(e.prompts.Log()[1].icon, MessageIcon::Stop);
+}
+
+TEST_F(ActionGeneralPropertiesDlgTest, ComplexRulesBringTheirAddsOrAnImport) {
+    ActionGeneralPropertiesDlg dialog(e.weaver, action);
+    Choose(dialog, "dawn_pack");
+    EXPECT_FALSE(dialog.parameterEnabled || dialog.conditionEnabled);
+    EXPECT_EQ(dialog.imported, "set_time(dawn) \r\nset_light(low,12) if(season==2); \r\n");
+    EXPECT_EQ(dialog.format, "set_time(dawn); ");
+    dialog.condition = "a>1";
+    dialog.OnAddRule(e.prompts);
+    EXPECT_EQ(dialog.workingRules,
+              (Rules{{"set_time", {"dawn"}, ""}, {"set_light", {"low", "12"}, "if(season==2); "}}));
+
+    EXPECT_EQ(Add("storm_pack").size(), 2u);
+    EXPECT_EQ(Add("import_night_pack"), (Rules{{"import_rules", {"import_night_pack"}, ""}}));
+    EXPECT_TRUE(e.prompts.Log().empty());
+
+    // A name the catalogue lost leaves the edits as they were.
+    e.weaver.ruleCatalogue.rules.clear();
+    Choose(dialog, "add_flag");
+    EXPECT_FALSE(dialog.parameterEnabled);
+    EXPECT_EQ(dialog.comment, "");
+    dialog.OnAddRule(e.prompts);
+    EXPECT_EQ(dialog.workingRules.size(), 2u);
+}
+
+TEST_F(ActionGeneralPropertiesDlgTest, RefusalsAreSilentButForAMissingChoice) {
+    RuleDef empty;
+    empty.name = "empty_pack";
+    empty.complex = true;
+    e.weaver.ruleCatalogue.rules.push_back(empty);
+    EXPECT_TRUE(Add("empty_pack").empty());
+    EXPECT_TRUE(Add("reserved_slot", "1").empty());
+    EXPECT_TRUE(Add("note_text", "5", "a>1").empty());
+    EXPECT_TRUE(e.prompts.Log().empty());
+
+    EXPECT_TRUE(Add("").empty());
+    ASSERT_EQ(e.prompts.Log().size(), 1u);
+    EXPECT_EQ(e.prompts.Log()[0].text, "Select one of the rules!");
+    EXPECT_EQ(e.prompts.Log()[0].icon, MessageIcon::Stop);
+}
+
+TEST_F(ActionGeneralPropertiesDlgTest, DeleteTakesTheSelectedRowsAndOkWritesWhatIsLeft) {
+    const Rules four = {{"a", {}, ""}, {"b", {}, ""}, {"c", {}, ""}, {"d", {"x"}, ""}};
+    action.rules = four;
+    ActionGeneralPropertiesDlg dialog(e.weaver, action);
+    dialog.ruleList[0].selected = true;
+    dialog.ruleList[2].selected = true;
+    dialog.OnDelete();
+    EXPECT_EQ(dialog.workingRules, (Rules{four[1], four[3]}));
+    EXPECT_EQ(dialog.ruleList[1].texts[0], "d(x);");
+    EXPECT_EQ(action.rules, four);
+
+    for (auto& row : dialog.ruleList)
+        row.selected = true;
+    dialog.OnDelete();
+    EXPECT_TRUE(dialog.Ok(e.prompts));
+    EXPECT_TRUE(action.rules.empty());
+    EXPECT_TRUE(dialog.IsResultValid());
+    action.name.clear();
+    EXPECT_FALSE(dialog.IsResultValid());
+}
+
+} // namespace
+} // namespace lw
