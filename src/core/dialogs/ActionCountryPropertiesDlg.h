@@ -1,0 +1,23 @@
+#pragma once
+
+#include "dialogs/SingleRuleComboDlg.h"
+
+namespace lw {
+
+class Weaver;
+
+// "Country Action Properties": the side an action puts its object on, as its
+// one "set_country" rule.
+class ActionCountryPropertiesDlg : public SingleRuleComboDlg {
+public:
+    static constexpr const char* kTitle = "Country Action Properties";
+
+    ActionCountryPropertiesDlg(Weaver& weaver, Action& action);
+
+    bool Ok(UserPrompts& prompts) { return Write(countryCombo, prompts); }
+
+    // The country words in their fixed order.
+    ComboField countryCombo{false, false};
+};
+
+} // namespace lw
