@@ -1,13 +1,32 @@
 #include "QtPropertyDialogs.h"
 
 #include "app/Weaver.h"
+#include "dialogs/ActionCountryPropertiesDlg.h"
+#include "dialogs/ActionGeneralPropertiesDlg.h"
+#include "dialogs/ActionModelPropertiesDlg.h"
+#include "dialogs/ActionSkinPropertiesDlg.h"
 #include "dialogs/AddNewLinkDlg.h"
 #include "dialogs/CPhasePropertiesDlg.h"
 #include "dialogs/CasePropertiesDlg.h"
+#include "dialogs/CheckCoalitionPropertiesDlg.h"
+#include "dialogs/CheckLocationTypePropertiesDlg.h"
+#include "dialogs/CheckRangePropertiesDlg.h"
+#include "dialogs/CheckSquadPropertiesDlg.h"
+#include "dialogs/CheckValuePropertiesDlg.h"
 #include "dialogs/DeleteLinksDlg.h"
 #include "dialogs/InputStringDlg.h"
+#include "dialogs/QtActionCountryPropertiesDlg.h"
+#include "dialogs/QtActionGeneralPropertiesDlg.h"
+#include "dialogs/QtActionModelPropertiesDlg.h"
+#include "dialogs/QtActionSkinPropertiesDlg.h"
 #include "dialogs/QtAddNewLinkDlg.h"
 #include "dialogs/QtCasePropertiesDlg.h"
+#include "dialogs/QtCheckCoalitionPropertiesDlg.h"
+#include "dialogs/QtCheckLocationTypePropertiesDlg.h"
+#include "dialogs/QtCheckRangePropertiesDlg.h"
+#include "dialogs/QtCheckSquadPropertiesDlg.h"
+#include "dialogs/QtCheckValuePropertiesDlg.h"
+#include "dialogs/QtDateReader.h"
 #include "dialogs/QtDeleteLinksDlg.h"
 #include "dialogs/QtInputStringDlg.h"
 #include "dialogs/QtPhasePropertiesDlg.h"
@@ -25,6 +44,15 @@ template <typename View, typename Form> bool QtPropertyDialogs::Run(Form& form) 
 // The callers test the result themselves as well; the dialogs' own test
 // comes first, as a dialog that ended with an unusable result counts as
 // cancelled.
+template <typename View, typename Form> bool QtPropertyDialogs::RunChecked(Form& form) {
+    return Run<View>(form) && form.IsResultValid();
+}
+
+template <typename View, typename Form> bool QtPropertyDialogs::EditCheckWith(lw::Check& check) {
+    Form form(weaver_, check);
+    return RunChecked<View>(form);
+}
+
 bool QtPropertyDialogs::EditPhase(lw::Phase& phase) {
     lw::CPhasePropertiesDlg form(weaver_, phase);
     QtPhaseSubDialogs subDialogs(runner_, prompts_, parent_);
@@ -34,26 +62,64 @@ bool QtPropertyDialogs::EditPhase(lw::Phase& phase) {
 
 bool QtPropertyDialogs::EditCase(lw::Case& item, const std::vector<std::int32_t>& firstMembers) {
     lw::CasePropertiesDlg form(weaver_, item, firstMembers);
-    return Run<QtCasePropertiesDlg>(form) && form.IsResultValid();
+    return RunChecked<QtCasePropertiesDlg>(form);
 }
 
 bool QtPropertyDialogs::EditSwitch(lw::Switch& item,
                                    const std::vector<std::int32_t>& firstMembers) {
     lw::SwitchPropertiesDlg form(weaver_, item, firstMembers);
-    return Run<QtSwitchPropertiesDlg>(form) && form.IsResultValid();
+    return RunChecked<QtSwitchPropertiesDlg>(form);
 }
 
 bool QtPropertyDialogs::EditUnlinker(lw::Unlinker& unlinker, std::int32_t preselectedPhaseId) {
     lw::UnlinkPropertiesDlg form(weaver_, unlinker, preselectedPhaseId);
-    return Run<QtUnlinkPropertiesDlg>(form) && form.IsResultValid();
+    return RunChecked<QtUnlinkPropertiesDlg>(form);
 }
 
-bool QtPropertyDialogs::EditCheck(lw::Check&) {
-    return false;
+// The squad editor also reads a stored date in the user's own short form.
+bool QtPropertyDialogs::EditCheck(lw::Check& check) {
+    switch (check.type) {
+    case lw::CheckSquad: {
+        lw::CheckSquadPropertiesDlg form(weaver_, check, QtDateReader());
+        return RunChecked<QtCheckSquadPropertiesDlg>(form);
+    }
+    case lw::CheckLocationType:
+        return EditCheckWith<QtCheckLocationTypePropertiesDlg, lw::CheckLocationTypePropertiesDlg>(
+            check);
+    case lw::CheckCoalition:
+        return EditCheckWith<QtCheckCoalitionPropertiesDlg, lw::CheckCoalitionPropertiesDlg>(check);
+    case lw::CheckRange:
+        return EditCheckWith<QtCheckRangePropertiesDlg, lw::CheckRangePropertiesDlg>(check);
+    case lw::CheckInRadius:
+        return EditCheckWith<QtCheckInRadiusPropertiesDlg, lw::CheckInRadiusPropertiesDlg>(check);
+    case lw::CheckInSector:
+        return EditCheckWith<QtCheckInSectorPropertiesDlg, lw::CheckInSectorPropertiesDlg>(check);
+    default:
+        return false;
+    }
 }
 
-bool QtPropertyDialogs::EditAction(lw::Action&, lw::ActionDialog) {
-    return false;
+// The skin, country and model editors have no test of their own: the
+// caller judges the rule they wrote.
+bool QtPropertyDialogs::EditAction(lw::Action& action, lw::ActionDialog dialog) {
+    switch (dialog) {
+    case lw::ActionDialog::Skin: {
+        lw::ActionSkinPropertiesDlg form(weaver_, action);
+        return Run<QtActionSkinPropertiesDlg>(form);
+    }
+    case lw::ActionDialog::Country: {
+        lw::ActionCountryPropertiesDlg form(weaver_, action);
+        return Run<QtActionCountryPropertiesDlg>(form);
+    }
+    case lw::ActionDialog::Model: {
+        lw::ActionModelPropertiesDlg form(weaver_, action);
+        return Run<QtActionModelPropertiesDlg>(form);
+    }
+    case lw::ActionDialog::General:
+        break;
+    }
+    lw::ActionGeneralPropertiesDlg form(weaver_, action);
+    return RunChecked<QtActionGeneralPropertiesDlg>(form);
 }
 
 bool QtPropertyDialogs::AddLink(const lw::Phase& source, const lw::Phase& destination,

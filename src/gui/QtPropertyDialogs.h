@@ -23,7 +23,7 @@ public:
     bool EditCase(lw::Case& item, const std::vector<std::int32_t>& firstMembers) override;
     bool EditSwitch(lw::Switch& item, const std::vector<std::int32_t>& firstMembers) override;
     bool EditUnlinker(lw::Unlinker& unlinker, std::int32_t preselectedPhaseId) override;
-    // The check and action editors are not there yet: they cancel.
+    // A check of the free type has no editor: it cancels.
     bool EditCheck(lw::Check& check) override;
     bool EditAction(lw::Action& action, lw::ActionDialog dialog) override;
     bool AddLink(const lw::Phase& source, const lw::Phase& destination, lw::Link& link) override;
@@ -33,6 +33,10 @@ public:
 private:
     // Opens the view on the form; true when it ended with OK.
     template <typename View, typename Form> bool Run(Form& form);
+    // Run, and the form's own test of what OK wrote.
+    template <typename View, typename Form> bool RunChecked(Form& form);
+    // The form of the check's editor and its view, made on the check.
+    template <typename View, typename Form> bool EditCheckWith(lw::Check& check);
 
     lw::Weaver& weaver_;
     lw::UserPrompts& prompts_;
