@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialogs/ComboField.h"
+#include "dialogs/ReportView.h"
 #include "objects/Action.h"
 #include "platform/UserPrompts.h"
 
@@ -21,17 +22,10 @@ class ActionGeneralPropertiesDlg {
 public:
     static constexpr const char* kTitle = "Action General Rules properties";
 
-    struct Column {
-        const char* title;
-        int width;
-    };
-    static constexpr std::array<Column, 2> kColumns{{{"Action", 450}, {"Condition", 380}}};
+    static constexpr std::array<ReportColumn, 2> kColumns{{{"Action", 450}, {"Condition", 380}}};
 
     // A row of the rule list: one text per column and whether it is selected.
-    struct Row {
-        std::array<std::string, kColumns.size()> texts;
-        bool selected = false;
-    };
+    using Row = ReportRow<kColumns.size()>;
 
     ActionGeneralPropertiesDlg(Weaver& weaver, Action& action);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialogs/ReportView.h"
 #include "objects/Link.h"
 #include "objects/Phase.h"
 #include "platform/UserPrompts.h"
@@ -18,21 +19,14 @@ class DeleteLinksDlg {
 public:
     static constexpr const char* kTitle = "Delete Links connected to phase";
 
-    struct Column {
-        const char* title;
-        int width;
-    };
-    static constexpr std::array<Column, 5> kColumns{{{"From phase", 230},
-                                                     {"From connection", 200},
-                                                     {"To phase", 230},
-                                                     {"To connection", 200},
-                                                     {"Object Link", 70}}};
+    static constexpr std::array<ReportColumn, 5> kColumns{{{"From phase", 230},
+                                                           {"From connection", 200},
+                                                           {"To phase", 230},
+                                                           {"To connection", 200},
+                                                           {"Object Link", 70}}};
 
     // A row of the view: one text per column and whether it is selected.
-    struct Row {
-        std::array<std::string, kColumns.size()> texts;
-        bool selected = false;
-    };
+    using Row = ReportRow<kColumns.size()>;
 
     DeleteLinksDlg(Weaver& weaver, const Phase& phase);
 

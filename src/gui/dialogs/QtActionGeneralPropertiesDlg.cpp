@@ -2,19 +2,17 @@
 
 #include "FieldBinding.h"
 #include "QtText.h"
+#include "ReportTable.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QTableWidget>
 #include <QVBoxLayout>
-#include <algorithm>
 
 namespace {
 
@@ -42,12 +40,16 @@ QtActionGeneralPropertiesDlg::QtActionGeneralPropertiesDlg(lw::ActionGeneralProp
     condition_->setObjectName("condition");
     auto* addRuleButton = new QPushButton(tr("Add Rule"), this);
     addRuleButton->setObjectName("addRuleButton");
-    MakeRuleList();
+    ruleList_ = MakeReportTable(lw::ActionGeneralPropertiesDlg::kColumns, this);
+    ruleList_->setObjectName("ruleList");
     auto* deleteButton = new QPushButton(tr("Delete"), this);
     deleteButton->setObjectName("deleteButton");
     imported_ = new QPlainTextEdit(this);
     imported_->setObjectName("imported");
     imported_->setReadOnly(true);
+    // A few lines are enough for a rule's entries; the rule list gets the rest.
+    imported_->setFixedHeight(imported_->fontMetrics().lineSpacing() * 5 +
+                              2 * imported_->frameWidth() + 8);
 
     auto* ruleForm = new QFormLayout;
     ruleForm->addRow(tr("Rule:"), ruleCombo_);
@@ -85,29 +87,11 @@ QLineEdit* QtActionGeneralPropertiesDlg::ReadOnlyEdit(const char* objectName) {
     return edit;
 }
 
-void QtActionGeneralPropertiesDlg::MakeRuleList() {
-    ruleList_ = new QTableWidget(this);
-    ruleList_->setObjectName("ruleList");
-    ruleList_->setShowGrid(true);
-    ruleList_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    ruleList_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    ruleList_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    ruleList_->verticalHeader()->hide();
-    const auto& columns = lw::ActionGeneralPropertiesDlg::kColumns;
-    ruleList_->setColumnCount(static_cast<int>(columns.size()));
-    for (int i = 0; i < ruleList_->columnCount(); ++i) {
-        ruleList_->setHorizontalHeaderItem(i, new QTableWidgetItem(ToQString(columns[i].title)));
-        ruleList_->setColumnWidth(i, columns[i].width);
-    }
-}
-
 void QtActionGeneralPropertiesDlg::TakeWidgets() {
     TakeCombo(ruleCombo_, form_.ruleCombo);
     form_.parameter = ToStdString(parameter_->text());
     form_.condition = ToStdString(condition_->text());
-    const int rows = std::min(ruleList_->rowCount(), static_cast<int>(form_.ruleList.size()));
-    for (int row = 0; row < rows; ++row)
-        form_.ruleList[row].selected = ruleList_->item(row, 0)->isSelected();
+    TakeRowSelection(ruleList_, form_.ruleList);
 }
 
 void QtActionGeneralPropertiesDlg::ShowModel() {
@@ -118,22 +102,8 @@ void QtActionGeneralPropertiesDlg::ShowModel() {
     ShowText(condition_, form_.condition);
     parameter_->setEnabled(form_.parameterEnabled);
     condition_->setEnabled(form_.conditionEnabled);
-    ShowRuleList();
+    ShowRows(ruleList_, form_.ruleList);
     // The form ends each imported line with a carriage return and a line
     // feed; the plain text edit wants line feeds only.
     imported_->setPlainText(ToQString(form_.imported).replace(QStringLiteral("\r\n"), "\n"));
-}
-
-void QtActionGeneralPropertiesDlg::ShowRuleList() {
-    const QSignalBlocker blocker(ruleList_);
-    ruleList_->clearContents();
-    ruleList_->setRowCount(static_cast<int>(form_.ruleList.size()));
-    for (int row = 0; row < ruleList_->rowCount(); ++row) {
-        const lw::ActionGeneralPropertiesDlg::Row& shown = form_.ruleList[row];
-        for (int column = 0; column < ruleList_->columnCount(); ++column) {
-            auto* item = new QTableWidgetItem(ToQString(shown.texts[column]));
-            ruleList_->setItem(row, column, item);
-            item->setSelected(shown.selected);
-        }
-    }
 }

@@ -23,8 +23,6 @@ protected:
     void ShowModel() override;
 
 private:
-    void MakeRuleList();
-    void ShowRuleList();
     QLineEdit* ReadOnlyEdit(const char* objectName);
 
     QComboBox* ruleCombo_ = nullptr;

@@ -19,7 +19,5 @@ protected:
     void ShowModel() override;
 
 private:
-    void MakeColumns();
-
     QTableWidget* linkView_ = nullptr;
 };
