@@ -138,11 +138,7 @@ private:
             Press(dialog, "box3");
             PressOk(dialog);
         });
-        runner->Queue([](QDialog& dialog) {
-            Press(dialog, "friendly");
-            Press(dialog, "neutral");
-            PressOk(dialog);
-        });
+        runner->Queue(PressThenOk({"friendly", "neutral"}));
         runner->Queue([](QDialog& dialog) {
             Press(dialog, "closest");
             Type(dialog, "range", "2500");
@@ -161,23 +157,10 @@ private:
     // The player's squad, the shoreline as well, no coalition, the range
     // parameter, a wider radius, and an arc that is first refused.
     void QueueCheckEdits() {
-        runner->Queue([](QDialog& dialog) {
-            Press(dialog, "usePlayerSquad");
-            PressOk(dialog);
-        });
-        runner->Queue([](QDialog& dialog) {
-            Press(dialog, "box2");
-            PressOk(dialog);
-        });
-        runner->Queue([](QDialog& dialog) {
-            Press(dialog, "friendly");
-            Press(dialog, "neutral");
-            PressOk(dialog);
-        });
-        runner->Queue([](QDialog& dialog) {
-            Press(dialog, "useParameter");
-            PressOk(dialog);
-        });
+        runner->Queue(PressThenOk({"usePlayerSquad"}));
+        runner->Queue(PressThenOk({"box2"}));
+        runner->Queue(PressThenOk({"friendly", "neutral"}));
+        runner->Queue(PressThenOk({"useParameter"}));
         runner->Queue([](QDialog& dialog) {
             Type(dialog, "radius", "1200");
             PressOk(dialog);

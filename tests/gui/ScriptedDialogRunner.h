@@ -12,6 +12,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace lw::test {
 
@@ -69,6 +70,15 @@ inline void Press(QDialog& dialog, const char* button) {
 
 inline void PressOk(QDialog& dialog) {
     dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+}
+
+// A filler that presses these buttons or boxes in order, then OK.
+inline ScriptedDialogRunner::Fill PressThenOk(std::vector<const char*> buttons) {
+    return [buttons = std::move(buttons)](QDialog& dialog) {
+        for (const char* button : buttons)
+            Press(dialog, button);
+        PressOk(dialog);
+    };
 }
 
 // Whether the saved text holds the part; tells what it missed when not.
