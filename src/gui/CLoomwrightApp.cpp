@@ -1,11 +1,15 @@
 #include "CLoomwrightApp.h"
 
+#include "AppWindowIcon.h"
 #include "CMainFrame.h"
 #include "app/AppInfo.h"
 
 CLoomwrightApp::CLoomwrightApp(int& argc, char** argv) : QApplication(argc, argv) {
     setOrganizationName(lw::kOrganizationName);
     setApplicationName(lw::kApplicationName);
+    // Desktops find the installed icon and the program by this name.
+    setDesktopFileName(QStringLiteral("loomwright"));
+    setWindowIcon(AppWindowIcon());
 }
 
 CLoomwrightApp::~CLoomwrightApp() = default;

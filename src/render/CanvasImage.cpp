@@ -6,10 +6,11 @@
 namespace lw {
 
 QImage PaintCanvasImage(const Weaver& weaver, const ViewTransform& view, const CanvasFont& font,
-                        QSize size) {
-    QImage image(size, QImage::Format_RGB32);
+                        QSize size, qreal devicePixelRatio) {
+    QImage image(size * devicePixelRatio, QImage::Format_RGB32);
     if (image.isNull())
         return image;
+    image.setDevicePixelRatio(devicePixelRatio);
     QPainter painter(&image);
     QPainterSurface surface(painter);
     PaintCanvas(surface, weaver, size.width(), size.height(), view, font);
