@@ -1,8 +1,9 @@
 #include "CChildView.h"
 
 #include "CanvasImage.h"
+#include "PlaceCursor.h"
 #include "QtText.h"
-#include "app/EditorCommands.h"
+#include "app/CommandTable.h"
 #include "app/Weaver.h"
 
 #include <QKeyEvent>
@@ -39,13 +40,15 @@ CChildView::CChildView(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    // The menu opens on an exact right click alone, never on Qt's own event.
+    setContextMenuPolicy(Qt::PreventContextMenu);
 }
 
 CChildView::~CChildView() = default;
 
-void CChildView::Attach(lw::Weaver& weaver, lw::EditorCommands& commands) {
+void CChildView::Attach(lw::Weaver& weaver, CommandRunner runCommand) {
     weaver_ = &weaver;
-    commands_ = &commands;
+    runCommand_ = std::move(runCommand);
     input_ = std::make_unique<lw::CanvasInput>(weaver);
 }
 
@@ -55,7 +58,7 @@ void CChildView::ShowCursor(lw::CanvasCursor cursor) {
         setCursor(Qt::SizeAllCursor);
         break;
     case lw::CanvasCursor::Place:
-        setCursor(Qt::CrossCursor);
+        setCursor(PlaceCursor());
         break;
     default:
         unsetCursor();
@@ -72,6 +75,7 @@ void CChildView::mousePressEvent(QMouseEvent* event) {
         setFocus();
         input_->RightDown(point.x(), point.y(), InputFlags(event));
     }
+    emit inputHandled();
 }
 
 void CChildView::mouseReleaseEvent(QMouseEvent* event) {
@@ -85,17 +89,20 @@ void CChildView::mouseReleaseEvent(QMouseEvent* event) {
         if (input_->RightUp(point.x(), point.y(), InputFlags(event)))
             ShowContextMenu(point);
     }
+    emit inputHandled();
 }
 
 // The second press of a double click comes here instead of as a press.
 void CChildView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (!input_)
         return;
-    const QPoint point = event->position().toPoint();
-    if (event->button() == Qt::LeftButton)
-        input_->LeftDoubleClick(point.x(), point.y());
-    else
+    if (event->button() != Qt::LeftButton) {
         mousePressEvent(event);
+        return;
+    }
+    const QPoint point = event->position().toPoint();
+    input_->LeftDoubleClick(point.x(), point.y());
+    emit inputHandled();
 }
 
 void CChildView::mouseMoveEvent(QMouseEvent* event) {
@@ -103,6 +110,7 @@ void CChildView::mouseMoveEvent(QMouseEvent* event) {
         return;
     const QPoint point = event->position().toPoint();
     input_->Move(point.x(), point.y(), InputFlags(event));
+    emit inputHandled();
 }
 
 void CChildView::wheelEvent(QWheelEvent* event) {
@@ -113,32 +121,35 @@ void CChildView::wheelEvent(QWheelEvent* event) {
     const lw::ScreenRect onScreen{topLeft.x(), topLeft.y(), topLeft.x() + width(),
                                   topLeft.y() + height()};
     input_->Wheel(screen.x(), screen.y(), event->angleDelta().y(), onScreen);
+    emit inputHandled();
 }
 
 void CChildView::keyPressEvent(QKeyEvent* event) {
-    if (input_ && event->key() == Qt::Key_Escape)
+    if (input_ && event->key() == Qt::Key_Escape) {
         input_->Key(lw::CanvasKey::Escape);
-    else if (input_ && event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier)
+    } else if (input_ && event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
         input_->Key(lw::CanvasKey::Delete);
-    else
+    } else {
         QWidget::keyPressEvent(event);
+        return;
+    }
+    emit inputHandled();
 }
 
-// The menu is built for the selection as it is at the release, and the
-// entry chosen runs as its command.
+// The menu is built for the selection as it is at the release and belongs to
+// the main window, whose status bar shows its entries' texts; the entry
+// chosen runs as its command.
 void CChildView::ShowContextMenu(const QPoint& point) {
-    QMenu menu(this);
+    QMenu menu(window());
     for (const lw::MenuEntry& entry : weaver_->BuildContextMenu()) {
         if (entry.IsSeparator()) {
             menu.addSeparator();
             continue;
         }
-        const QStringList parts = ToQString(entry.text).split('\t');
-        QAction* action = menu.addAction(parts.front());
-        if (parts.size() > 1)
-            action->setShortcut(QKeySequence(parts[1]));
+        QAction* action = menu.addAction(ToQString(entry.text));
         const lw::CommandId command = *entry.command;
-        connect(action, &QAction::triggered, this, [this, command] { commands_->Run(command); });
+        action->setStatusTip(ToQString(lw::StatusText(command)));
+        connect(action, &QAction::triggered, this, [this, command] { runCommand_(command); });
     }
     menu.exec(mapToGlobal(point));
 }
@@ -148,6 +159,7 @@ void CChildView::paintEvent(QPaintEvent*) {
         return;
     // The whole canvas is painted into an image first and then shown at once,
     // so that a repaint never shows a scene half drawn.
-    const QImage image = lw::PaintCanvasImage(*weaver_, *this, lw::CanvasView::font, size());
+    const QImage image =
+        lw::PaintCanvasImage(*weaver_, *this, lw::CanvasView::font, size(), devicePixelRatioF());
     QPainter(this).drawImage(0, 0, image);
 }

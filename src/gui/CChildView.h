@@ -1,14 +1,15 @@
 #pragma once
 
 #include "app/CanvasInput.h"
+#include "app/CommandId.h"
 #include "canvas/CanvasView.h"
 #include "canvas/InteractionState.h"
 
 #include <QWidget>
+#include <functional>
 #include <memory>
 
 namespace lw {
-class EditorCommands;
 class Weaver;
 } // namespace lw
 
@@ -23,10 +24,17 @@ public:
     explicit CChildView(QWidget* parent = nullptr);
     ~CChildView() override;
 
-    // The document to show and to hand the input to, and the commands its
-    // context menu runs; without them the canvas stays as it is.
-    void Attach(lw::Weaver& weaver, lw::EditorCommands& commands);
+    using CommandRunner = std::function<void(lw::CommandId)>;
+
+    // The document to show and to hand the input to, and what runs the
+    // commands of its context menu; without them the canvas stays as it is.
+    void Attach(lw::Weaver& weaver, CommandRunner runCommand);
     void ShowCursor(lw::CanvasCursor cursor);
+
+signals:
+    // An event of the pointer, the wheel or the keys has reached the
+    // document, which may have changed what the commands may do.
+    void inputHandled();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -41,6 +49,6 @@ private:
     void ShowContextMenu(const QPoint& point);
 
     lw::Weaver* weaver_ = nullptr;
-    lw::EditorCommands* commands_ = nullptr;
+    CommandRunner runCommand_;
     std::unique_ptr<lw::CanvasInput> input_;
 };

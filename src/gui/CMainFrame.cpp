@@ -1,5 +1,8 @@
 #include "CMainFrame.h"
 
+#include "CAboutDlg.h"
+#include "CommandActions.h"
+#include "LockKeyIndicators.h"
 #include "QtText.h"
 #include "app/AppInfo.h"
 #include "app/DataFolder.h"
@@ -7,8 +10,9 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDesktopServices>
-#include <QKeySequence>
-#include <QMenuBar>
+#include <QLabel>
+#include <QStatusBar>
+#include <QToolBar>
 #include <QUrl>
 
 CMainFrame::CMainFrame(QWidget* parent)
@@ -25,63 +29,87 @@ CMainFrame::CMainFrame(QWidget* parent)
 bool CMainFrame::OnCreate(const std::string& dataFolder) {
     view_.setParent(this);
     setCentralWidget(&view_);
-    CreateFileMenu();
-    CreateEditMenu();
+    // Esc and Delete are keys of the canvas: the window hands its focus on.
+    setFocusProxy(&view_);
+    actions_ = new CommandActions(*this, [this](lw::CommandId command) { RunCommand(command); });
+    actions_->Build();
+    connect(actions_, &CommandActions::aboutToShowMenu, this, &CMainFrame::RefreshCommandStates);
+    CreateStatusBar();
     resize(1024, 768);
+
     weaver_.SetViewHost(this);
     weaver_.SetView(&view_);
-    view_.Attach(weaver_, commands_);
+    view_.Attach(weaver_, [this](lw::CommandId command) { RunCommand(command); });
+    connect(&view_, &CChildView::inputHandled, this, &CMainFrame::RefreshCommandStates);
 
     const QString program = QCoreApplication::applicationFilePath();
     weaver_.StartUp(dataFolder.empty() ? lw::DataFolderForExecutable(PathToStdString(program))
                                        : dataFolder);
+    RefreshCommandStates();
     return true;
 }
 
-QAction* CMainFrame::AddCommand(QMenu* menu, const QString& text, lw::CommandId command,
-                                const QKeySequence& keys) {
-    auto* action = menu != nullptr ? menu->addAction(text) : new QAction(text, this);
-    action->setShortcut(keys);
-    connect(action, &QAction::triggered, this, [this, command] { commands_.Run(command); });
-    if (menu == nullptr)
-        addAction(action);
-    return action;
+// The message pane shows "Ready" while no entry or button is pointed at; a
+// status text replaces it for as long as it shows.
+void CMainFrame::CreateStatusBar() {
+    auto* ready = new QLabel(tr("Ready"), statusBar());
+    ready->setObjectName("ready");
+    statusBar()->addWidget(ready, 1);
+    lockKeys_ = new LockKeyIndicators(*statusBar());
 }
 
-void CMainFrame::CreateFileMenu() {
-    using lw::CommandId;
-    QMenu* menu = menuBar()->addMenu(tr("&File"));
-    AddCommand(menu, tr("New"), CommandId::FileNew, QKeySequence(Qt::CTRL | Qt::Key_N));
-    AddCommand(menu, tr("Open"), CommandId::FileOpen, QKeySequence(Qt::CTRL | Qt::Key_O));
-    AddCommand(menu, tr("Save"), CommandId::FileSave, QKeySequence(Qt::CTRL | Qt::Key_S));
-    AddCommand(menu, tr("Save As"), CommandId::FileSaveAs,
-               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
-    menu->addAction(tr("E&xit"), [this] { close(); });
+void CMainFrame::RunCommand(lw::CommandId command) {
+    if (lw::EditorCommands::IsWindowCommand(command))
+        RunWindowCommand(command);
+    else
+        commands_.Run(command);
+    RefreshCommandStates();
 }
 
-void CMainFrame::CreateEditMenu() {
-    using lw::CommandId;
-    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
-    AddCommand(menu, tr("&Undo"), CommandId::EditUndo, QKeySequence(Qt::CTRL | Qt::Key_Z));
-    AddCommand(menu, tr("&Redo"), CommandId::EditRedo, QKeySequence(Qt::CTRL | Qt::Key_Y));
-    menu->addSeparator();
-    AddCommand(menu, tr("Cu&t"), CommandId::EditCut, QKeySequence(Qt::CTRL | Qt::Key_X));
-    AddCommand(menu, tr("&Copy"), CommandId::EditCopy, QKeySequence(Qt::CTRL | Qt::Key_C));
-    AddCommand(menu, tr("&Paste"), CommandId::EditPaste);
-    // Ctrl+V places the clipboard at the pointer at once, while the menu's
-    // Paste waits for a click.
-    AddCommand(nullptr, QString(), CommandId::PasteAtPointer, QKeySequence(Qt::CTRL | Qt::Key_V));
-    menu->addSeparator();
-    AddCommand(menu, tr("Reload Blocks \"on the fly\""), CommandId::ReloadBlocks);
-    AddCommand(menu, tr("Save Selection to file"), CommandId::SaveSelection);
-    AddCommand(menu, tr("Import From File"), CommandId::ImportTemplate);
-    // The link gestures' keys work in every state, as the context menu does.
-    AddCommand(nullptr, QString(), CommandId::AddPrimaryLink, QKeySequence(Qt::SHIFT | Qt::Key_T));
-    AddCommand(nullptr, QString(), CommandId::AddSecondaryLink, QKeySequence(Qt::CTRL | Qt::Key_T));
+void CMainFrame::RunWindowCommand(lw::CommandId command) {
+    switch (command) {
+    case lw::CommandId::AppExit:
+        close();
+        break;
+    case lw::CommandId::AppAbout:
+        CAboutDlg(this).exec();
+        break;
+    case lw::CommandId::ViewToolbar:
+        actions_->Toolbar()->setVisible(!actions_->Toolbar()->isVisible());
+        break;
+    case lw::CommandId::ViewStatusBar:
+        statusBar()->setVisible(!statusBar()->isVisible());
+        break;
+    default:
+        break;
+    }
 }
 
+bool CMainFrame::IsEnabled(lw::CommandId command) const {
+    return commands_.IsEnabled(command);
+}
+
+bool CMainFrame::IsChecked(lw::CommandId command) const {
+    // The bars are ticked while shown, even before the window is.
+    if (command == lw::CommandId::ViewToolbar)
+        return !actions_->Toolbar()->isHidden();
+    if (command == lw::CommandId::ViewStatusBar)
+        return !statusBar()->isHidden();
+    return commands_.IsChecked(command);
+}
+
+void CMainFrame::RefreshCommandStates() {
+    if (actions_ == nullptr)
+        return;
+    actions_->Refresh([this](lw::CommandId command) { return IsEnabled(command); },
+                      [this](lw::CommandId command) { return IsChecked(command); });
+}
+
+// Every change of the document and every undo and redo refreshes the title,
+// so the commands are brought up to date with it.
 void CMainFrame::SetTitle(const std::string& title) {
     setWindowTitle(ToQString(title));
+    RefreshCommandStates();
 }
 
 void CMainFrame::Repaint() {
@@ -94,8 +122,10 @@ void CMainFrame::RepaintArea(const lw::ScreenRect& area) {
         QRect(area.left, area.top, area.right - area.left + 1, area.bottom - area.top + 1));
 }
 
+// A new cursor means a new gesture state, which the commands depend on.
 void CMainFrame::ShowCursor(lw::CanvasCursor cursor) {
     view_.ShowCursor(cursor);
+    RefreshCommandStates();
 }
 
 void CMainFrame::OpenTextFile(const std::string& path) {

@@ -12,8 +12,14 @@
 
 #include <QMainWindow>
 
-// The main window. It holds the canvas and the central Weaver, and gives
-// Weaver the platform's message boxes, options, files and window.
+class CommandActions;
+class LockKeyIndicators;
+class QLabel;
+
+// The main window. It holds the canvas and the central Weaver, gives Weaver
+// the platform's message boxes, options, files and window, and is where
+// every command of the menus, the toolbar, the keys and the canvas's context
+// menu enters.
 class CMainFrame : public QMainWindow, public lw::ViewHost {
     Q_OBJECT
 
@@ -29,6 +35,13 @@ public:
     lw::FileCommands& fileCommands() { return commands_.File(); }
     lw::EditMenuCommands& editCommands() { return commands_.Edit(); }
     CChildView& view() { return view_; }
+    CommandActions& actions() { return *actions_; }
+    LockKeyIndicators& lockKeys() { return *lockKeys_; }
+
+    // Runs the command if its enable rule allows it now, then brings every
+    // menu entry, button and key up to date.
+    void RunCommand(lw::CommandId command);
+    void RefreshCommandStates();
 
     void SetTitle(const std::string& title) override;
     void Repaint() override;
@@ -41,11 +54,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void CreateFileMenu();
-    void CreateEditMenu();
-    // A menu entry or a key that runs the command, if its enable rule allows.
-    QAction* AddCommand(QMenu* menu, const QString& text, lw::CommandId command,
-                        const QKeySequence& keys = QKeySequence());
+    void CreateStatusBar();
+    bool IsEnabled(lw::CommandId command) const;
+    bool IsChecked(lw::CommandId command) const;
+    // The commands of the window itself: leaving, the About box, the bars.
+    void RunWindowCommand(lw::CommandId command);
 
     QtPrompts prompts_;
     QtFileDialogs fileDialogs_;
@@ -56,4 +69,6 @@ private:
     lw::EditorCommands commands_;
     DialogRunner dialogRunner_;
     QtPropertyDialogs propertyDialogs_;
+    CommandActions* actions_ = nullptr;
+    LockKeyIndicators* lockKeys_ = nullptr;
 };

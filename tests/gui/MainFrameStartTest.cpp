@@ -138,7 +138,7 @@ private slots:
         weaver.selection.Add(weaver.FindPhaseByName("ReturnHome"));
         frame.editCommands().Copy();
         frame.editCommands().Paste();
-        QCOMPARE(frame.view().cursor().shape(), Qt::CrossCursor);
+        QCOMPARE(frame.view().cursor().shape(), Qt::BitmapCursor);
 
         const std::size_t before = weaver.objects.size();
         QTest::mouseClick(&frame.view(), Qt::LeftButton, {}, QPoint(120, 90));

@@ -1,0 +1,388 @@
+#include "CMainFrame.h"
+#include "CommandActions.h"
+#include "LockKeyIndicators.h"
+#include "QtPrompts.h"
+#include "QtPropertyDialogs.h"
+#include "ScriptedDialogRunner.h"
+#include "app/AppInfo.h"
+#include "app/CommandTable.h"
+
+#include <QFileDialog>
+#include <QLabel>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QToolBar>
+#include <QToolButton>
+#include <QWheelEvent>
+#include <QtTest>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+using lw::CommandId;
+using namespace lw::test;
+
+namespace {
+
+void SendMouse(QWidget* view, QEvent::Type type, QPoint point, Qt::MouseButton button,
+               Qt::MouseButtons held, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QMouseEvent event(type, QPointF(point), QPointF(view->mapToGlobal(point)), button, held,
+                      modifiers);
+    QApplication::sendEvent(view, &event);
+}
+
+void Click(QWidget* view, QPoint point, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    SendMouse(view, QEvent::MouseButtonPress, point, Qt::LeftButton, Qt::LeftButton, modifiers);
+    SendMouse(view, QEvent::MouseButtonRelease, point, Qt::LeftButton, Qt::NoButton, modifiers);
+}
+
+void Drag(QWidget* view, QPoint from, QPoint to, Qt::MouseButton button = Qt::LeftButton) {
+    SendMouse(view, QEvent::MouseMove, from, Qt::NoButton, Qt::NoButton);
+    SendMouse(view, QEvent::MouseButtonPress, from, button, button);
+    SendMouse(view, QEvent::MouseMove, (from + to) / 2, Qt::NoButton, button);
+    SendMouse(view, QEvent::MouseMove, to, Qt::NoButton, button);
+    SendMouse(view, QEvent::MouseButtonRelease, to, button, Qt::NoButton);
+}
+
+void Wheel(QWidget* view, QPoint point, int delta) {
+    QWheelEvent wheel(QPointF(point), QPointF(view->mapToGlobal(point)), QPoint(), QPoint(0, delta),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view, &wheel);
+}
+
+// Runs `close` on the next modal dialog or popup menu once it shows.
+template <typename Widget> void OnNext(std::function<void(Widget&)> close) {
+    QTimer::singleShot(0, [close] {
+        QWidget* shown = QApplication::activePopupWidget();
+        if (shown == nullptr)
+            shown = QApplication::activeModalWidget();
+        auto* widget = qobject_cast<Widget*>(shown);
+        if (widget == nullptr) {
+            OnNext<Widget>(close);
+            return;
+        }
+        close(*widget);
+    });
+}
+
+std::string ReadFile(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+} // namespace
+
+// The whole editor on the rich sample, used as a designer uses it: the
+// pointer on the canvas, the menus, the toolbar, the keys and the bars.
+class MainWindowTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() {
+        QVERIFY(settingsFolder.isValid() && dataCopy.isValid());
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settingsFolder.path());
+        std::filesystem::copy(LOOMWRIGHT_SAMPLE_DATA_DIR, dataCopy.path().toStdString(),
+                              std::filesystem::copy_options::recursive);
+    }
+
+    void init() {
+        QSettings settings(lw::kOrganizationName, lw::kApplicationName);
+        settings.setValue("LoomwrightOptions/LastUsedTemplateName", "scg\\sample_rich.mt");
+        frame = std::make_unique<CMainFrame>();
+        QVERIFY(frame->OnCreate(dataCopy.path().toStdString()));
+        frame->show();
+        frame->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(frame.get()));
+        QCOMPARE(frame->windowTitle(), QString("Loomwright - scg\\sample_rich.mt"));
+        view = &frame->view();
+        // Four notches out show the whole template.
+        for (int i = 0; i < 4; ++i)
+            Wheel(view, QPoint(0, 0), -120);
+        QVERIFY(view->scale < 0.7f);
+    }
+
+    void cleanup() {
+        frame->weaver().undoManager.changed = false;
+        frame.reset();
+    }
+
+    void clicksCtrlClicksAndTheBandSelect() {
+        lw::Weaver& weaver = frame->weaver();
+        Click(view, At("PlayerStart"));
+        QCOMPARE(Selected(), QStringList{"PlayerStart"});
+        Click(view, At("WaypointNorth"), Qt::ControlModifier);
+        QCOMPARE(Selected(), (QStringList{"PlayerStart", "WaypointNorth"}));
+        Click(view, At("PlayerStart"), Qt::ControlModifier);
+        QCOMPARE(Selected(), QStringList{"WaypointNorth"});
+
+        // A band from empty canvas around the two phases of the first column.
+        Drag(view, Screen(150, 150), Screen(700, 1150));
+        QCOMPARE(Selected(), (QStringList{"PlayerStart", "EscortLeg"}));
+        QVERIFY(weaver.undoManager.undoStack.empty());
+        QCOMPARE(weaver.interactionState, int(lw::StateIdle));
+    }
+
+    void aDragIsOneCommandUndoneAndRedoneByMenuAndKeys() {
+        lw::Phase* start = frame->weaver().FindPhaseByName("PlayerStart");
+        Drag(view, At("PlayerStart"), At("PlayerStart") + QPoint(50, 25));
+        const int movedX = start->posX;
+        QVERIFY(movedX > 400);
+        QCOMPARE(frame->weaver().undoManager.undoStack.size(), std::size_t{1});
+        QVERIFY(frame->windowTitle().endsWith('*'));
+
+        frame->actions().Action(CommandId::EditUndo)->trigger();
+        QCOMPARE(start->posX, 400);
+        QVERIFY(!frame->actions().Action(CommandId::EditUndo)->isEnabled());
+        QVERIFY(frame->actions().Action(CommandId::EditRedo)->isEnabled());
+        frame->actions().Action(CommandId::EditRedo)->trigger();
+        QCOMPARE(start->posX, movedX);
+
+        QTest::keyClick(frame.get(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(start->posX, 400);
+        QTest::keyClick(frame.get(), Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(start->posX, movedX);
+        QTest::keyClick(frame.get(), Qt::Key_Backspace, Qt::AltModifier);
+        QCOMPARE(start->posX, 400);
+    }
+
+    void deleteKeyAndEveryLayerToggle() {
+        lw::Weaver& weaver = frame->weaver();
+        Click(view, At("BomberRaid"));
+        QTest::keyClick(view, Qt::Key_Delete);
+        QVERIFY(weaver.FindPhaseByName("BomberRaid") == nullptr);
+
+        const std::pair<CommandId, bool*> layers[] = {
+            {CommandId::DrawIo, &weaver.options.DrawInputOutputs},
+            {CommandId::DrawSwitches, &weaver.options.DrawSwitchAndCases},
+            {CommandId::DrawChecks, &weaver.options.DrawChecks},
+            {CommandId::DrawActions, &weaver.options.DrawActions},
+            {CommandId::DrawGeometry, &weaver.options.DrawGeometry}};
+        for (const auto& [command, flag] : layers) {
+            QAction* action = frame->actions().Action(command);
+            auto* button =
+                qobject_cast<QToolButton*>(frame->actions().Toolbar()->widgetForAction(action));
+            QVERIFY(button != nullptr && button->isCheckable());
+            QVERIFY(!*flag && !action->isChecked());
+            button->click();
+            QVERIFY(*flag);
+            QVERIFY(action->isChecked() && button->isChecked());
+        }
+        // The bars go with their own toggles.
+        frame->actions().Action(CommandId::ViewToolbar)->trigger();
+        QVERIFY(frame->actions().Toolbar()->isHidden());
+        QVERIFY(!frame->actions().Action(CommandId::ViewToolbar)->isChecked());
+        frame->actions().Action(CommandId::ViewStatusBar)->trigger();
+        QVERIFY(frame->statusBar()->isHidden());
+    }
+
+    void theRightButtonPansAndOpensTheMenuOfOneOrTwoPhases() {
+        const int viewX = view->viewX;
+        Drag(view, QPoint(300, 300), QPoint(340, 300), Qt::RightButton);
+        QVERIFY(view->viewX > viewX);
+
+        Click(view, At("PlayerStart"));
+        const QStringList one = ContextMenuAt(At("PlayerStart"));
+        QVERIFY(one.contains("Add Rule..."));
+        QVERIFY(one.contains("Delete Links..."));
+        QVERIFY(!one.contains("Add Target Link from PlayerStart to WaypointNorth"));
+
+        Click(view, At("WaypointNorth"), Qt::ControlModifier);
+        const QStringList two = ContextMenuAt(At("WaypointNorth"));
+        QVERIFY(two.contains("Add Target Link from PlayerStart to WaypointNorth"));
+        QVERIFY(two.contains("Add Object Link from PlayerStart to WaypointNorth"));
+    }
+
+    void savesThroughTheFileDialog() {
+        frame->weaver().fileName.clear();
+        Drag(view, At("PlayerStart"), At("PlayerStart") + QPoint(30, 0));
+        QVERIFY(frame->actions().Action(CommandId::FileSave)->isEnabled());
+        const QString target = dataCopy.filePath("scg/saved.mt");
+        const QString dataFolder = dataCopy.path();
+        OnNext<QFileDialog>([target, dataFolder](QFileDialog& dialog) {
+            // Save As starts in the data folder itself, not in "scg".
+            QCOMPARE(dialog.nameFilters(), QStringList{"Mission Template Files (*.mt)"});
+            QCOMPARE(dialog.directory().canonicalPath(), QDir(dataFolder).canonicalPath());
+            dialog.selectFile(target);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        QTest::keyClick(frame.get(), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(frame->windowTitle(), QString("Loomwright - scg\\saved.mt"));
+        QVERIFY(!frame->actions().Action(CommandId::FileSave)->isEnabled());
+        const std::string saved = ReadFile(target.toStdString());
+        QVERIFY(saved.find("gui_helper; PlayerStart; ") != std::string::npos);
+        QVERIFY(saved.find("\r\n") != std::string::npos);
+    }
+
+    void enableRulesWithNoSelectionAndWhilePlacingAPhase() {
+        const std::vector<CommandId> idleOnly = {
+            CommandId::FileNew,     CommandId::FileOpen,  CommandId::FileSaveAs,
+            CommandId::EditPaste,   CommandId::AddPhase,  CommandId::AddUnlinker,
+            CommandId::AddCase,     CommandId::AddSwitch, CommandId::ImportTemplate,
+            CommandId::ReloadBlocks};
+        const std::vector<CommandId> selectionOnly = {CommandId::EditCut, CommandId::EditCopy,
+                                                      CommandId::SaveSelection};
+        for (CommandId command : idleOnly)
+            QVERIFY(Enabled(command));
+        for (CommandId command : selectionOnly)
+            QVERIFY(!Enabled(command));
+        QVERIFY(!Enabled(CommandId::FileSave));
+        QTest::keyClick(frame.get(), Qt::Key_X, Qt::ControlModifier);
+        QCOMPARE(frame->weaver().objects.size(), objectsAtStart());
+
+        // A drag first, so that Undo stays enabled while the phase is placed.
+        Drag(view, At("PlayerStart"), At("PlayerStart") + QPoint(0, 30));
+        QtPrompts prompts;
+        ScriptedDialogRunner runner;
+        QtPropertyDialogs dialogs(frame->weaver(), prompts, runner);
+        frame->weaver().SetPropertyDialogs(&dialogs);
+        runner.Queue([](QDialog& dialog) {
+            Type(dialog, "name", "NewPhase");
+            Choose(dialog, "mainBlockCombo", "scg\\0\\blocks\\air\\patrol.group");
+            PressOk(dialog);
+        });
+        auto* addPhase = frame->actions().Toolbar()->widgetForAction(
+            frame->actions().Action(CommandId::AddPhase));
+        qobject_cast<QToolButton*>(addPhase)->click();
+        QCOMPARE(frame->weaver().interactionState, int(lw::StatePlacePhase));
+        QCOMPARE(view->cursor().shape(), Qt::BitmapCursor);
+        for (CommandId command : idleOnly)
+            QVERIFY(!Enabled(command));
+        for (CommandId command : selectionOnly)
+            QVERIFY(!Enabled(command));
+        QVERIFY(!Enabled(CommandId::FileSave));
+        QVERIFY(Enabled(CommandId::EditUndo));
+        // A disabled key does nothing either: no question about the changes.
+        QTest::keyClick(frame.get(), Qt::Key_N, Qt::ControlModifier);
+        QCOMPARE(frame->weaver().interactionState, int(lw::StatePlacePhase));
+
+        Click(view, QPoint(500, 600));
+        QCOMPARE(frame->weaver().interactionState, int(lw::StateIdle));
+        QCOMPARE(view->cursor().shape(), Qt::ArrowCursor);
+        QVERIFY(frame->weaver().FindPhaseByName("NewPhase") != nullptr);
+        for (CommandId command : idleOnly)
+            QVERIFY(Enabled(command));
+        QVERIFY(Enabled(CommandId::FileSave));
+        frame->weaver().SetPropertyDialogs(nullptr);
+    }
+
+    void statusBarShowsTheCommandsTextsAndTheLocks() {
+        QLabel* ready = frame->statusBar()->findChild<QLabel*>("ready");
+        QCOMPARE(ready->text(), QString("Ready"));
+        QAction* undo = frame->actions().Action(CommandId::EditUndo);
+        QCOMPARE(undo->toolTip(), QString("Undo"));
+        undo->showStatusText(frame.get());
+        QCOMPARE(frame->statusBar()->currentMessage(), QString("Undo the last action"));
+
+        QStatusBar bar;
+        bool capsOn = true;
+        LockKeyIndicators locks(bar, [&](LockKey key) { return key == LockKey::Caps && capsOn; });
+        QCOMPARE(locks.Text(LockKey::Caps), QString("CAP"));
+        QCOMPARE(locks.Text(LockKey::Num), QString());
+        capsOn = false;
+        locks.Refresh();
+        QCOMPARE(locks.Text(LockKey::Caps), QString());
+
+        for (const lw::Accelerator& key : lw::Accelerators())
+            QCOMPARE(KeySequenceOf(key.keys).count(), 1);
+    }
+
+    void theAboutBoxAndEveryMenuCommandOpenAndClose() {
+        OnNext<QDialog>([](QDialog& about) {
+            QCOMPARE(about.windowTitle(), QString("About Loomwright"));
+            QCOMPARE(about.findChild<QLabel*>("version")->text(),
+                     QString("Loomwright Version 1.0"));
+            about.accept();
+        });
+        frame->actions().Action(CommandId::AppAbout)->trigger();
+
+        // Every entry but Exit, as a user would try them: each dialog or
+        // question that opens is cancelled, each placing stopped with Esc.
+        Click(view, At("PlayerStart"));
+        for (const lw::MenuDefinition& menu : lw::MainMenu()) {
+            for (const lw::MenuEntry& entry : menu.entries) {
+                if (entry.IsSeparator() || entry.command == CommandId::AppExit)
+                    continue;
+                QTimer closer;
+                connect(&closer, &QTimer::timeout, [] {
+                    if (QWidget* modal = QApplication::activeModalWidget())
+                        qobject_cast<QDialog*>(modal)->reject();
+                });
+                closer.start(10);
+                frame->actions().Action(*entry.command)->trigger();
+                QTest::keyClick(view, Qt::Key_Escape);
+                QCOMPARE(frame->weaver().interactionState, int(lw::StateIdle));
+            }
+        }
+        QVERIFY(frame->isVisible());
+    }
+
+    void theWindowIsGrabbedToAPicture() {
+        for (CommandId layer : {CommandId::DrawIo, CommandId::DrawSwitches, CommandId::DrawChecks,
+                                CommandId::DrawActions, CommandId::DrawGeometry})
+            frame->RunCommand(layer);
+        for (int i = 0; i < 5; ++i)
+            Wheel(view, QPoint(0, 0), -120);
+        Click(view, At("FrontSector"));
+        const QImage picture = frame->grab().toImage();
+        const QString path =
+            qEnvironmentVariable("LOOMWRIGHT_SCREENSHOT", dataCopy.filePath("editor.png"));
+        QVERIFY(picture.save(path, "PNG"));
+        const QImage read(path);
+        QCOMPARE(read.size(), frame->size() * frame->devicePixelRatio());
+        // The canvas holds far more than its white ground.
+        const QImage canvas = view->grab().toImage();
+        int drawn = 0;
+        for (int y = 0; y < canvas.height(); y += 4)
+            for (int x = 0; x < canvas.width(); x += 4)
+                drawn += canvas.pixel(x, y) != qRgb(255, 255, 255);
+        QVERIFY(drawn > 500);
+    }
+
+private:
+    QPoint Screen(int worldX, int worldY) const {
+        return QPoint(view->ScreenX(worldX), view->ScreenY(worldY));
+    }
+
+    QPoint At(const char* phase) const {
+        const lw::Phase* found = frame->weaver().FindPhaseByName(phase);
+        if (found == nullptr)
+            qFatal("no phase %s", phase);
+        return Screen(found->posX, found->posY);
+    }
+
+    QStringList Selected() const {
+        QStringList names;
+        for (const lw::EditorObject* member : frame->weaver().selection.members)
+            names << QString::fromStdString(static_cast<const lw::Phase*>(member)->name);
+        return names;
+    }
+
+    bool Enabled(CommandId command) const { return frame->actions().Action(command)->isEnabled(); }
+
+    std::size_t objectsAtStart() const { return frame->weaver().objects.size(); }
+
+    QStringList ContextMenuAt(QPoint point) {
+        QStringList texts;
+        OnNext<QMenu>([&texts](QMenu& menu) {
+            for (QAction* action : menu.actions())
+                texts << action->text();
+            menu.close();
+        });
+        SendMouse(view, QEvent::MouseButtonPress, point, Qt::RightButton, Qt::RightButton);
+        SendMouse(view, QEvent::MouseButtonRelease, point, Qt::RightButton, Qt::NoButton);
+        return texts;
+    }
+
+    QTemporaryDir settingsFolder;
+    QTemporaryDir dataCopy;
+    std::unique_ptr<CMainFrame> frame;
+    CChildView* view = nullptr;
+};
+
+QTEST_MAIN(MainWindowTest)
+#include "MainWindowTest.moc"
