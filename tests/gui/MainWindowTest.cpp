@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QSettings>
 #include <QStatusBar>
@@ -301,16 +302,20 @@ private slots:
         frame->actions().Action(CommandId::AppAbout)->trigger();
 
         // Every entry but Exit, as a user would try them: each dialog or
-        // question that opens is cancelled, each placing stopped with Esc.
+        // question that opens is noted and cancelled, each placing stopped
+        // with Esc.
         Click(view, At("PlayerStart"));
+        std::map<CommandId, QString> opened;
         for (const lw::MenuDefinition& menu : lw::MainMenu()) {
             for (const lw::MenuEntry& entry : menu.entries) {
                 if (entry.IsSeparator() || entry.command == CommandId::AppExit)
                     continue;
                 QTimer closer;
-                connect(&closer, &QTimer::timeout, [] {
-                    if (QWidget* modal = QApplication::activeModalWidget())
-                        qobject_cast<QDialog*>(modal)->reject();
+                connect(&closer, &QTimer::timeout, [&opened, &entry] {
+                    if (auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                        opened[*entry.command] = Describe(*modal);
+                        modal->reject();
+                    }
                 });
                 closer.start(10);
                 frame->actions().Action(*entry.command)->trigger();
@@ -319,15 +324,46 @@ private slots:
             }
         }
         QVERIFY(frame->isVisible());
+        const QString data = QDir(dataCopy.path()).canonicalPath();
+        QCOMPARE(opened[CommandId::FileOpen], "files in " + data + "/scg");
+        QCOMPARE(opened[CommandId::FileSaveAs], "files in " + data);
+        QCOMPARE(opened[CommandId::ReloadBlocks], QString("warning: Loomwright"));
+        QCOMPARE(opened[CommandId::AddPhase], QString("Phase Properties"));
+        QCOMPARE(opened[CommandId::AddSwitch], QString("Switch properties"));
+        QCOMPARE(opened[CommandId::AppAbout], QString("About Loomwright"));
+    }
+
+    void theClipboardAndLinkKeys() {
+        lw::Weaver& weaver = frame->weaver();
+        Click(view, At("PlayerStart"));
+        QTest::keyClick(frame.get(), Qt::Key_Insert, Qt::ControlModifier);
+        // Ctrl+V places the copy at once where the pointer is.
+        const std::size_t before = weaver.objects.size();
+        SendMouse(view, QEvent::MouseMove, QPoint(600, 650), Qt::NoButton, Qt::NoButton);
+        QTest::keyClick(frame.get(), Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(weaver.objects.size() > before);
+        QCOMPARE(weaver.interactionState, int(lw::StateIdle));
+        // Shift+Insert, as the menu's Paste, waits for a click.
+        QTest::keyClick(frame.get(), Qt::Key_Insert, Qt::ShiftModifier);
+        QCOMPARE(weaver.interactionState, int(lw::StatePlaceTemplate));
+        QTest::keyClick(view, Qt::Key_Escape);
+
+        Click(view, At("EscortLeg"));
+        QTest::keyClick(frame.get(), Qt::Key_T, Qt::ShiftModifier);
+        QCOMPARE(weaver.interactionState, int(lw::StatePrimaryLink));
+        QTest::keyClick(view, Qt::Key_Escape);
+        QTest::keyClick(frame.get(), Qt::Key_Delete, Qt::ShiftModifier);
+        QVERIFY(weaver.FindPhaseByName("EscortLeg") == nullptr);
     }
 
     void theWindowIsGrabbedToAPicture() {
         for (CommandId layer : {CommandId::DrawIo, CommandId::DrawSwitches, CommandId::DrawChecks,
                                 CommandId::DrawActions, CommandId::DrawGeometry})
             frame->RunCommand(layer);
-        for (int i = 0; i < 5; ++i)
+        frame->resize(1280, 800);
+        for (int i = 0; i < 4; ++i)
             Wheel(view, QPoint(0, 0), -120);
-        Click(view, At("FrontSector"));
+        Click(view, At("ReconSweep"));
         const QImage picture = frame->grab().toImage();
         const QString path =
             qEnvironmentVariable("LOOMWRIGHT_SCREENSHOT", dataCopy.filePath("editor.png"));
@@ -363,6 +399,18 @@ private:
     }
 
     bool Enabled(CommandId command) const { return frame->actions().Action(command)->isEnabled(); }
+
+    // What a modal dialog is, in a few words: its folder for a file
+    // dialog, its icon and title for a message box, else its title.
+    static QString Describe(QDialog& dialog) {
+        if (auto* files = qobject_cast<QFileDialog*>(&dialog))
+            return "files in " + files->directory().canonicalPath();
+        if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
+            const bool warning = box->icon() == QMessageBox::Warning;
+            return (warning ? "warning: " : "other: ") + box->windowTitle();
+        }
+        return dialog.windowTitle();
+    }
 
     std::size_t objectsAtStart() const { return frame->weaver().objects.size(); }
 
