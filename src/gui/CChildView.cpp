@@ -6,10 +6,12 @@
 #include "app/CommandTable.h"
 #include "app/Weaver.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStatusTipEvent>
 #include <QWheelEvent>
 
 namespace {
@@ -151,7 +153,12 @@ void CChildView::ShowContextMenu(const QPoint& point) {
         action->setStatusTip(ToQString(lw::StatusText(command)));
         connect(action, &QAction::triggered, this, [this, command] { runCommand_(command); });
     }
+    // A popup keeps status texts to itself: hand them to the window's status bar.
+    connect(&menu, &QMenu::hovered, this,
+            [this](QAction* action) { action->showStatusText(window()); });
     menu.exec(mapToGlobal(point));
+    QStatusTipEvent cleared{QString()};
+    QCoreApplication::sendEvent(window(), &cleared);
 }
 
 void CChildView::paintEvent(QPaintEvent*) {

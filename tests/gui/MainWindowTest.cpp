@@ -196,6 +196,8 @@ private slots:
         const QStringList two = ContextMenuAt(At("WaypointNorth"));
         QVERIFY(two.contains("Add Target Link from PlayerStart to WaypointNorth"));
         QVERIFY(two.contains("Add Object Link from PlayerStart to WaypointNorth"));
+        QCOMPARE(one.last(), QString("status: Shows Delete Links Dialog for Selected Phase"));
+        QCOMPARE(two.last(), QString("status: Add Object link\\Add Object Link"));
     }
 
     void savesThroughTheFileDialog() {
@@ -416,9 +418,12 @@ private:
 
     QStringList ContextMenuAt(QPoint point) {
         QStringList texts;
-        OnNext<QMenu>([&texts](QMenu& menu) {
+        OnNext<QMenu>([&texts, this](QMenu& menu) {
             for (QAction* action : menu.actions())
                 texts << action->text();
+            // The entry pointed at tells about itself in the window's status bar.
+            menu.setActiveAction(menu.actions().back());
+            texts << "status: " + frame->statusBar()->currentMessage();
             menu.close();
         });
         SendMouse(view, QEvent::MouseButtonPress, point, Qt::RightButton, Qt::RightButton);
