@@ -181,11 +181,23 @@ private slots:
         QVERIFY(frame->statusBar()->isHidden());
     }
 
-    void theRightButtonPansAndOpensTheMenuOfOneOrTwoPhases() {
-        const int viewX = view->viewX;
-        Drag(view, QPoint(300, 300), QPoint(340, 300), Qt::RightButton);
-        QVERIFY(view->viewX > viewX);
+    void theWheelZoomsAndTheRightButtonPans() {
+        view->viewX = view->viewY = 0;
+        view->scale = 1.0f;
+        Wheel(view, QPoint(10, 10), 120);
+        QCOMPARE(view->scale, 1.1f);
+        QCOMPARE(view->lw::CanvasView::font.height, 15);
 
+        view->viewX = view->viewY = 0;
+        view->scale = 1.0f;
+        Drag(view, QPoint(100, 100), QPoint(130, 90), Qt::RightButton);
+        QCOMPARE(view->viewX, 30);
+        QCOMPARE(view->viewY, -10);
+        // A right drag opens no menu: the release is not where the press was.
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+    }
+
+    void theRightButtonOpensTheMenuOfOneOrTwoPhases() {
         Click(view, At("PlayerStart"));
         const QStringList one = ContextMenuAt(At("PlayerStart"));
         QVERIFY(one.contains("Add Rule..."));
