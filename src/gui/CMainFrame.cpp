@@ -75,10 +75,10 @@ void CMainFrame::RunWindowCommand(lw::CommandId command) {
         CAboutDlg(this).exec();
         break;
     case lw::CommandId::ViewToolbar:
-        actions_->Toolbar()->setVisible(!actions_->Toolbar()->isVisible());
+        actions_->Toolbar()->setVisible(actions_->Toolbar()->isHidden());
         break;
     case lw::CommandId::ViewStatusBar:
-        statusBar()->setVisible(!statusBar()->isVisible());
+        statusBar()->setVisible(statusBar()->isHidden());
         break;
     default:
         break;

@@ -14,7 +14,6 @@
 
 class CommandActions;
 class LockKeyIndicators;
-class QLabel;
 
 // The main window. It holds the canvas and the central Weaver, gives Weaver
 // the platform's message boxes, options, files and window, and is where
