@@ -9,7 +9,6 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
-#include <filesystem>
 
 namespace {
 
@@ -123,34 +122,6 @@ private slots:
         QVERIFY(frame.isVisible());
         AnswerNextMessageBox(QMessageBox::No, &question);
         QVERIFY(frame.close());
-    }
-
-    void aPasteIsPlacedWithAClickOnTheCanvas() {
-        // The clipboard is a file of the data folder: work on a copy of it.
-        QTemporaryDir dataCopy;
-        std::filesystem::copy(LOOMWRIGHT_SAMPLE_DATA_DIR, dataCopy.path().toStdString(),
-                              std::filesystem::copy_options::recursive);
-        SetLastUsedTemplate("scg\\sample_small.mt");
-        CMainFrame frame;
-        QVERIFY(frame.OnCreate(dataCopy.path().toStdString()));
-        frame.show();
-        lw::Weaver& weaver = frame.weaver();
-        weaver.selection.Add(weaver.FindPhaseByName("ReturnHome"));
-        frame.editCommands().Copy();
-        frame.editCommands().Paste();
-        QCOMPARE(frame.view().cursor().shape(), Qt::BitmapCursor);
-
-        const std::size_t before = weaver.objects.size();
-        QTest::mouseClick(&frame.view(), Qt::LeftButton, {}, QPoint(120, 90));
-        QCOMPARE(weaver.objects.size(), before + 1);
-        QCOMPARE(weaver.objects.back()->posX, 120);
-        QCOMPARE(weaver.interactionState, int(lw::StateIdle));
-        QCOMPARE(frame.view().cursor().shape(), Qt::ArrowCursor);
-
-        frame.editCommands().Paste();
-        QTest::keyClick(&frame.view(), Qt::Key_Escape);
-        QCOMPARE(weaver.interactionState, int(lw::StateIdle));
-        weaver.undoManager.changed = false;
     }
 
 private:

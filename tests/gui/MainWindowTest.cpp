@@ -351,16 +351,23 @@ private slots:
         lw::Weaver& weaver = frame->weaver();
         Click(view, At("PlayerStart"));
         QTest::keyClick(frame.get(), Qt::Key_Insert, Qt::ControlModifier);
-        // Ctrl+V places the copy at once where the pointer is.
-        const std::size_t before = weaver.objects.size();
+        // Ctrl+V places the copy at once where the pointer is, the menu's
+        // Paste and Shift+Insert where the next click is: the two copies lie
+        // as far apart as the two points.
         SendMouse(view, QEvent::MouseMove, QPoint(600, 650), Qt::NoButton, Qt::NoButton);
         QTest::keyClick(frame.get(), Qt::Key_V, Qt::ControlModifier);
-        QVERIFY(weaver.objects.size() > before);
         QCOMPARE(weaver.interactionState, int(lw::StateIdle));
-        // Shift+Insert, as the menu's Paste, waits for a click.
+        const int firstX = weaver.objects.back()->posX;
+        const std::size_t before = weaver.objects.size();
         QTest::keyClick(frame.get(), Qt::Key_Insert, Qt::ShiftModifier);
         QCOMPARE(weaver.interactionState, int(lw::StatePlaceTemplate));
-        QTest::keyClick(view, Qt::Key_Escape);
+        QCOMPARE(view->cursor().shape(), Qt::BitmapCursor);
+        Click(view, QPoint(300, 650));
+        QVERIFY(weaver.objects.size() > before);
+        const int apart = firstX - weaver.objects.back()->posX;
+        QVERIFY(qAbs(apart - (view->WorldX(600) - view->WorldX(300))) <= 1);
+        QCOMPARE(weaver.interactionState, int(lw::StateIdle));
+        QCOMPARE(view->cursor().shape(), Qt::ArrowCursor);
 
         Click(view, At("EscortLeg"));
         QTest::keyClick(frame.get(), Qt::Key_T, Qt::ShiftModifier);
