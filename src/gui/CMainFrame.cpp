@@ -55,7 +55,7 @@ void CMainFrame::CreateStatusBar() {
     auto* ready = new QLabel(tr("Ready"), statusBar());
     ready->setObjectName("ready");
     statusBar()->addWidget(ready, 1);
-    lockKeys_ = new LockKeyIndicators(*statusBar());
+    new LockKeyIndicators(*statusBar());
 }
 
 void CMainFrame::RunCommand(lw::CommandId command) {
@@ -85,10 +85,6 @@ void CMainFrame::RunWindowCommand(lw::CommandId command) {
     }
 }
 
-bool CMainFrame::IsEnabled(lw::CommandId command) const {
-    return commands_.IsEnabled(command);
-}
-
 bool CMainFrame::IsChecked(lw::CommandId command) const {
     // The bars are ticked while shown, even before the window is.
     if (command == lw::CommandId::ViewToolbar)
@@ -101,7 +97,7 @@ bool CMainFrame::IsChecked(lw::CommandId command) const {
 void CMainFrame::RefreshCommandStates() {
     if (actions_ == nullptr)
         return;
-    actions_->Refresh([this](lw::CommandId command) { return IsEnabled(command); },
+    actions_->Refresh([this](lw::CommandId command) { return commands_.IsEnabled(command); },
                       [this](lw::CommandId command) { return IsChecked(command); });
 }
 

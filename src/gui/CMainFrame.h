@@ -13,7 +13,6 @@
 #include <QMainWindow>
 
 class CommandActions;
-class LockKeyIndicators;
 
 // The main window. It holds the canvas and the central Weaver, gives Weaver
 // the platform's message boxes, options, files and window, and is where
@@ -35,7 +34,6 @@ public:
     lw::EditMenuCommands& editCommands() { return commands_.Edit(); }
     CChildView& view() { return view_; }
     CommandActions& actions() { return *actions_; }
-    LockKeyIndicators& lockKeys() { return *lockKeys_; }
 
     // Runs the command if its enable rule allows it now, then brings every
     // menu entry, button and key up to date.
@@ -54,7 +52,6 @@ protected:
 
 private:
     void CreateStatusBar();
-    bool IsEnabled(lw::CommandId command) const;
     bool IsChecked(lw::CommandId command) const;
     // The commands of the window itself: leaving, the About box, the bars.
     void RunWindowCommand(lw::CommandId command);
@@ -69,5 +66,4 @@ private:
     DialogRunner dialogRunner_;
     QtPropertyDialogs propertyDialogs_;
     CommandActions* actions_ = nullptr;
-    LockKeyIndicators* lockKeys_ = nullptr;
 };

@@ -93,14 +93,6 @@ QAction* CommandActions::Action(CommandId command) const {
     return found != actions_.end() ? found->second : nullptr;
 }
 
-QMenu* CommandActions::Menu(const QString& title) const {
-    for (QAction* menu : window_.menuBar()->actions()) {
-        if (menu->text() == title)
-            return menu->menu();
-    }
-    return nullptr;
-}
-
 QKeySequence KeySequenceOf(const std::string& keys) {
     // Qt's portable names of these two keys are short.
     QString text = ToQString(keys);

@@ -36,7 +36,6 @@ public:
     // The action of the command's menu entry and toolbar button.
     QAction* Action(lw::CommandId command) const;
     QToolBar* Toolbar() const { return toolbar_; }
-    QMenu* Menu(const QString& title) const;
 
 signals:
     // A menu is about to open: its entries must show the present state.
