@@ -1,3 +1,4 @@
+#include "GenerateCommand.h"
 #include "InfoCommand.h"
 #include "RenderCommand.h"
 #include "ReplayCommand.h"
@@ -52,6 +53,11 @@ const char* const kUsage =
     "           the last three prepare the next question, file dialog (PATH in\n"
     "           the data folder) or property dialog, which are otherwise\n"
     "           cancelled; a line not understood stops it before it starts\n"
+    "  generate PHASES FOLDER\n"
+    "           write a synthetic template of PHASES phases (checks, actions,\n"
+    "           cases, switches, links and unlinkers with it) and the data\n"
+    "           folder it loads in into FOLDER, and print the template's path;\n"
+    "           for trying the editor and the tool on large templates\n"
     "  info [--data DIR]\n"
     "           show what the editor reads from the data folder at start:\n"
     "           the configuration, the model and rule catalogues, the block folders\n"
@@ -106,6 +112,8 @@ int main(int argc, char** argv) {
         return RunRenderCommand(arguments, kUsage);
     if (words[0] == "reload" && count == 2)
         return RunReloadCommand(arguments, std::cout);
+    if (words[0] == "generate" && count == 2)
+        return RunGenerateCommand(arguments, std::cout);
     if (words[0] == "replay" && count == 3)
         return RunReplayCommand(arguments, std::cout);
 
