@@ -3,6 +3,10 @@
 #include "QtSurfaceValues.h"
 #include "canvas/CanvasPalette.h"
 
+#include <QFontMetricsF>
+#include <QPaintDevice>
+#include <algorithm>
+
 namespace lw {
 
 namespace {
@@ -14,14 +18,53 @@ constexpr Rgb kEdgeDarkShadow{105, 105, 105};
 constexpr Rgb kEdgeShadow{160, 160, 160};
 constexpr Rgb kEdgeHighlight{255, 255, 255};
 
+// Room around a shape for its pen and the painter's rounding.
+constexpr qreal kShapeMargin = 2;
+
+QRectF DeviceArea(const QPainter& painter) {
+    const QPaintDevice* device = painter.device();
+    if (device == nullptr)
+        return {};
+    const QRectF pixels(0, 0, device->width(), device->height());
+    return painter.deviceTransform().inverted().mapRect(pixels);
+}
+
 } // namespace
 
-QPainterSurface::QPainterSurface(QPainter& painter)
-    : painter_(painter), pen_(ToQPen(kThinBlackPen)) {
+QPainterSurface::QPainterSurface(QPainter& painter, Unseen unseen)
+    : painter_(painter), unseen_(unseen), pen_(ToQPen(kThinBlackPen)) {
     painter_.setRenderHint(QPainter::Antialiasing, false);
     painter_.setBackgroundMode(Qt::TransparentMode);
     painter_.setPen(pen_);
     painter_.setBrush(ToQColor(kWhiteBrush.colour));
+    visible_ = DeviceArea(painter_);
+    const QFontMetricsF metrics(painter_.font());
+    maxGlyphWidth_ = metrics.maxWidth();
+    lineHeight_ = metrics.lineSpacing();
+}
+
+bool QPainterSurface::MayShow(const QRectF& bounds) const {
+    if (unseen_ == Unseen::Draw)
+        return true;
+    const qreal margin = std::max<qreal>(pen_.widthF(), 1) + kShapeMargin;
+    return bounds.adjusted(-margin, -margin, margin, margin).intersects(visible_);
+}
+
+// A text kept to its box shows only there; one that may leave it stays
+// within as many widest glyphs as it has characters to either side and as
+// many lines as it has above and below.
+bool QPainterSurface::MayShowText(const std::string& text, const ScreenRect& rect,
+                                  unsigned flags) const {
+    if (unseen_ == Unseen::Draw)
+        return true;
+    QRectF bounds = ToTextBox(rect);
+    if ((flags & TextNoClip) != 0) {
+        const qreal lines = 1 + static_cast<qreal>(std::count(text.begin(), text.end(), '\n'));
+        const qreal dx = maxGlyphWidth_ * static_cast<qreal>(text.size());
+        const qreal dy = lineHeight_ * lines;
+        bounds = bounds.normalized().adjusted(-dx, -dy, dx, dy);
+    }
+    return bounds.intersects(visible_);
 }
 
 void QPainterSurface::SelectPen(const Pen& pen) {
@@ -35,6 +78,9 @@ void QPainterSurface::SelectBrush(const Brush& brush) {
 
 void QPainterSurface::SelectFont(const CanvasFont& font) {
     painter_.setFont(ToQFont(font));
+    const QFontMetricsF metrics(painter_.font());
+    maxGlyphWidth_ = metrics.maxWidth();
+    lineHeight_ = metrics.lineSpacing();
 }
 
 Rgb QPainterSurface::SetTextColour(Rgb colour) {
@@ -44,32 +90,35 @@ Rgb QPainterSurface::SetTextColour(Rgb colour) {
 }
 
 void QPainterSurface::Rectangle(const ScreenRect& rect) {
-    if (!rect.IsEmpty())
+    if (!rect.IsEmpty() && MayShow(ToTextBox(rect)))
         painter_.drawRect(ToOutlineRect(rect));
 }
 
 void QPainterSurface::Ellipse(const ScreenRect& rect) {
-    if (!rect.IsEmpty())
+    if (!rect.IsEmpty() && MayShow(ToTextBox(rect)))
         painter_.drawEllipse(ToOutlineRect(rect));
 }
 
 void QPainterSurface::RoundRect(const ScreenRect& rect, int cornerWidth, int cornerHeight) {
-    if (!rect.IsEmpty())
+    if (!rect.IsEmpty() && MayShow(ToTextBox(rect)))
         painter_.drawRoundedRect(ToOutlineRect(rect), cornerWidth / 2.0, cornerHeight / 2.0);
 }
 
 void QPainterSurface::Line(ScreenPoint from, ScreenPoint to) {
-    painter_.drawLine(from.x, from.y, to.x, to.y);
+    if (MayShow(QRectF(QPointF(from.x, from.y), QPointF(to.x, to.y)).normalized()))
+        painter_.drawLine(from.x, from.y, to.x, to.y);
 }
 
 void QPainterSurface::DrawText(const std::string& text, const ScreenRect& rect, unsigned flags) {
+    if (!MayShowText(text, rect, flags))
+        return;
     painter_.setPen(ToQColor(textColour_));
     painter_.drawText(ToTextBox(rect), ToQtTextFlags(flags), ToText(text));
     painter_.setPen(pen_);
 }
 
 void QPainterSurface::DrawBumpEdge(const ScreenRect& rect) {
-    if (rect.IsEmpty())
+    if (rect.IsEmpty() || !MayShow(ToTextBox(rect)))
         return;
     // Each border is one pixel wide: first its upper and left sides, then its
     // lower and right ones, which own the corners they share.

@@ -4,16 +4,26 @@
 
 #include <QPainter>
 #include <QPen>
+#include <QRectF>
 
 namespace lw {
 
 // The drawing surface on a QPainter, drawn as the canvas has always been
 // drawn: shapes and lines without smoothing, so that they keep their exact
 // pixels, and texts on a transparent background in their own colour.
+//
+// The scene paints every object wherever it lies, so a large template sends
+// far more calls than a window shows. A call that cannot reach a single
+// pixel of the device is dropped before Qt lays out its text or rasterizes
+// its shape: that changes no pixel and makes a repaint cost what it shows.
 class QPainterSurface : public DrawingSurface {
 public:
+    // Whether calls that cannot reach the device are dropped; drawing them
+    // all is there to show that dropping them changes nothing.
+    enum class Unseen { Drop, Draw };
+
     // Gives the painter the surface's starting state.
-    explicit QPainterSurface(QPainter& painter);
+    explicit QPainterSurface(QPainter& painter, Unseen unseen = Unseen::Drop);
 
     void SelectPen(const Pen& pen) override;
     void SelectBrush(const Brush& brush) override;
@@ -27,7 +37,19 @@ public:
     void DrawBumpEdge(const ScreenRect& rect) override;
 
 private:
+    // Whether anything drawn within `bounds` (logical coordinates), widened
+    // by the pen, may touch the device.
+    bool MayShow(const QRectF& bounds) const;
+    bool MayShowText(const std::string& text, const ScreenRect& rect, unsigned flags) const;
+
     QPainter& painter_;
+    Unseen unseen_;
+    // The device's pixels in the painter's logical coordinates.
+    QRectF visible_;
+    // The widest glyph and the line height of the selected font, which bound
+    // where a text that may leave its box can reach.
+    qreal maxGlyphWidth_ = 0;
+    qreal lineHeight_ = 0;
     // Qt draws texts with the pen, so the text colour is kept beside it.
     QPen pen_;
     Rgb textColour_;

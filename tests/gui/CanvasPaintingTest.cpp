@@ -1,7 +1,11 @@
 #include "CMainFrame.h"
+#include "CanvasImage.h"
 #include "QPainterSurface.h"
 #include "QtSurfaceValues.h"
+#include "SceneExtent.h"
+#include "canvas/CanvasPaint.h"
 #include "canvas/CanvasPalette.h"
+#include "support/SampleEditor.h"
 
 #include <QFontInfo>
 #include <QImage>
@@ -75,6 +79,34 @@ private slots:
                  qPrintable(font.family()));
         QCOMPARE(font.pixelSize(), 12);
         QCOMPARE(QFontInfo(lw::ToQFont(lw::CanvasFontAt(0.05f, true))).pixelSize(), 1);
+    }
+
+    // The surface drops the calls that cannot reach the picture: windows all
+    // over a scene with every layer, where texts and lines cross the edges,
+    // must show the same pixels as when every call is drawn.
+    void droppingWhatCannotShowChangesNoPixel() {
+        lw::test::SampleEditor editor;
+        editor.Open("scg\\sample_rich.mt");
+        lw::EditorOptions& options = editor.weaver.options;
+        options.DrawInputOutputs = options.DrawSwitchAndCases = options.DrawChecks =
+            options.DrawActions = options.DrawGeometry = true;
+        const lw::SceneFrame frame = lw::FrameWholeScene(editor.weaver, 1.0f, editor.view.font, 20);
+        const QSize window(230, 170);
+        for (int top = 0; top < frame.height; top += 61) {
+            for (int left = 0; left < frame.width; left += 97) {
+                lw::ViewTransform view = frame.view;
+                view.viewX -= left;
+                view.viewY -= top;
+                QImage everything(window, QImage::Format_RGB32);
+                QPainter painter(&everything);
+                lw::QPainterSurface surface(painter, lw::QPainterSurface::Unseen::Draw);
+                lw::PaintCanvas(surface, editor.weaver, window.width(), window.height(), view,
+                                editor.view.font);
+                painter.end();
+                QCOMPARE(lw::PaintCanvasImage(editor.weaver, view, editor.view.font, window),
+                         everything);
+            }
+        }
     }
 
     void canvasWindowPaintsTheDocumentOfItsMainWindow() {
