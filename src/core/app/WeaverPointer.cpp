@@ -239,10 +239,8 @@ void Weaver::EndBand(int x, int y) {
         if (!IsShown(item->GetKind(), options))
             continue;
         const ScreenPoint anchor = item->ScreenAnchor(view);
-        // Each object is met once and the selection was emptied, so there is
-        // nothing to look for before appending.
         if (Contains(band, anchor.x, anchor.y))
-            selection.members.push_back(item.get());
+            selection.Add(item.get());
     }
     selection.Recalculate();
     if (selection.members.empty() && wasEmpty) {

@@ -17,22 +17,33 @@ void ObjectsGroup::Recalculate() {
 }
 
 bool ObjectsGroup::Contains(const EditorObject* object) const {
-    return std::find(members.begin(), members.end(), object) != members.end();
+    return memberSet_.count(object) != 0;
 }
 
 void ObjectsGroup::Add(EditorObject* object) {
-    if (!Contains(object))
+    if (memberSet_.insert(object).second)
         members.push_back(object);
 }
 
 void ObjectsGroup::Remove(const EditorObject* object) {
-    const auto found = std::find(members.begin(), members.end(), object);
-    if (found != members.end())
-        members.erase(found);
+    if (memberSet_.erase(object) != 0)
+        members.erase(std::find(members.begin(), members.end(), object));
+}
+
+void ObjectsGroup::RemoveAll(const std::unordered_set<const EditorObject*>& objects) {
+    const std::size_t before = members.size();
+    members.erase(std::remove_if(members.begin(), members.end(),
+                                 [&](const EditorObject* member) {
+                                     return objects.count(member) != 0 && memberSet_.erase(member);
+                                 }),
+                  members.end());
+    if (members.size() != before)
+        Recalculate();
 }
 
 void ObjectsGroup::Clear() {
     members.clear();
+    memberSet_.clear();
     Recalculate();
 }
 

@@ -3,6 +3,7 @@
 #include "objects/EditorObject.h"
 #include "objects/ViewTransform.h"
 
+#include <unordered_set>
 #include <vector>
 
 namespace lw {
@@ -26,13 +27,22 @@ public:
     // Appends the object unless it is a member already.
     void Add(EditorObject* object);
     void Remove(const EditorObject* object);
+    // Removes every member that is in `objects`, in one pass over the members,
+    // and recomputes the group if it lost any.
+    void RemoveAll(const std::unordered_set<const EditorObject*>& objects);
     // Empties the group and recomputes it.
     void Clear();
 
-    // In the order they were added; owned by the store.
+    // In the order they were added; owned by the store. Change them only
+    // through Add, Remove, RemoveAll and Clear, which keep the lookup beside.
     std::vector<EditorObject*> members;
     ScreenRect bounds;
     const ViewTransform* view = nullptr;
+
+private:
+    // The members again, so that asking about one costs no walk of a large
+    // selection.
+    std::unordered_set<const EditorObject*> memberSet_;
 };
 
 } // namespace lw

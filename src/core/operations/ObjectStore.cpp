@@ -1,6 +1,8 @@
 #include "operations/ObjectStore.h"
 
 #include <algorithm>
+#include <tuple>
+#include <unordered_set>
 
 namespace lw {
 
@@ -162,6 +164,24 @@ void ObjectStore::RemoveObject(EditorObject* object) {
     objects.erase(found);
 }
 
+void ObjectStore::RemoveObjects(const std::vector<EditorObject*>& doomed) {
+    std::unordered_set<const EditorObject*> gone(doomed.begin(), doomed.end());
+    gone.erase(nullptr);
+    // Leaving the selection all at once measures what stays only once.
+    selection.RemoveAll(gone);
+    for (auto& owned : objects) {
+        EditorObject* object = owned.get();
+        if (gone.count(object) == 0)
+            continue;
+        const auto indexed = objectIndex.find(object->id);
+        if (indexed != objectIndex.end() && indexed->second == object)
+            objectIndex.erase(indexed);
+        ForgetObject(object);
+        owned.reset();
+    }
+    objects.erase(std::remove(objects.begin(), objects.end(), nullptr), objects.end());
+}
+
 void ObjectStore::ForgetObject(const EditorObject* object) {
     // The selection must never hold a destroyed object, whoever destroys it:
     // an undo, a redo or a removal.
@@ -175,6 +195,27 @@ void ObjectStore::RemoveLink(const Link& link) {
     const auto found = std::find(links.begin(), links.end(), link);
     if (found != links.end())
         links.erase(found);
+}
+
+void ObjectStore::RemoveLinks(const std::vector<Link>& doomed) {
+    // Removing the first equal link once for each of k equal ones removes the
+    // first k of them.
+    using Key = std::tuple<bool, std::int32_t, std::string, std::int32_t, std::string>;
+    const auto keyOf = [](const Link& link) {
+        return Key{link.isObjectLink, link.fromPhaseId, link.fromGate, link.toPhaseId, link.toGate};
+    };
+    std::map<Key, std::size_t> remaining;
+    for (const Link& link : doomed)
+        ++remaining[keyOf(link)];
+    links.erase(std::remove_if(links.begin(), links.end(),
+                               [&](const Link& link) {
+                                   const auto found = remaining.find(keyOf(link));
+                                   if (found == remaining.end() || found->second == 0)
+                                       return false;
+                                   --found->second;
+                                   return true;
+                               }),
+                links.end());
 }
 
 void ObjectStore::RefreshGateMarks() {

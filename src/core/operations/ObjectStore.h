@@ -76,8 +76,13 @@ public:
     // Destroys the object and takes it out of the selection. Other objects'
     // references to it are the caller's matter.
     void RemoveObject(EditorObject* object);
+    // Destroys every one of the objects as RemoveObject would one after the
+    // other, in one pass over the store; the others keep their order.
+    void RemoveObjects(const std::vector<EditorObject*>& doomed);
     // Removes the first equal link; the gate marks stay until refreshed.
     void RemoveLink(const Link& link);
+    // Removes links as RemoveLink would one after the other, in one pass.
+    void RemoveLinks(const std::vector<Link>& doomed);
     // Opens every gate, then closes those that a link uses.
     void RefreshGateMarks();
 

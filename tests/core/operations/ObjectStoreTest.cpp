@@ -156,3 +156,24 @@ TEST(ObjectStoreTest, ClearingEmptiesTheSelectionFirst) {
     EXPECT_TRUE(store.links.empty());
     EXPECT_EQ(store.nextId, 1);
 }
+
+// Removing many at once must leave what removing them one by one leaves.
+TEST(ObjectStoreTest, RemovingManyAtOnceEqualsRemovingThemInTurn) {
+    ObjectStore store;
+    for (int i = 0; i < 6; ++i)
+        store.NewPhase();
+    store.selection.Add(store.FindObject(5));
+    store.selection.Add(store.FindObject(2));
+    store.selection.Add(store.FindObject(3));
+    store.RemoveObjects({store.FindObject(5), nullptr, store.FindObject(2), store.FindObject(4)});
+    EXPECT_EQ(IdsInOrder(store), (Ids{1, 3, 6}));
+    EXPECT_EQ(store.objectIndex.size(), 3u);
+    EXPECT_EQ(store.selection.members, std::vector<EditorObject*>{store.FindObject(3)});
+    EXPECT_FALSE(store.selection.Contains(nullptr));
+
+    const Link a{true, 1, "out", 3, "in"};
+    const Link b{false, 1, "out", 3, "in"};
+    store.links = {a, b, a, a, b};
+    store.RemoveLinks({a, a, Link{}});
+    EXPECT_EQ(store.links, (std::vector<Link>{b, a, b}));
+}
