@@ -49,8 +49,8 @@ void BM_BandSelect(benchmark::State& state) {
     ZoomOut(editor);
     for (auto _ : state) {
         editor.weaver.PointerDown(-5, -5);
-        editor.weaver.PointerMove(4000, 1000);
-        editor.weaver.PointerUp(4000, 1000);
+        editor.weaver.PointerMove(4000, 4000);
+        editor.weaver.PointerUp(4000, 4000);
     }
     state.counters["selected"] = static_cast<double>(editor.weaver.selection.members.size());
 }

@@ -11,6 +11,7 @@
 #include "undo/UR_Command.h"
 
 #include <cstdint>
+#include <unordered_map>
 #include <vector>
 
 namespace lw {
@@ -34,17 +35,16 @@ public:
     void Redo() override;
 
 private:
-    class Membership;
+    class Deletion;
 
-    void Take(EditorObject& member, const Membership& group);
-    void TakePhase(Phase& phase, const Membership& group);
-    void TakeFirstUnlinkerOf(std::int32_t phaseId);
-    void TakeLinksOf(std::int32_t phaseId);
-    void CutGeometryLinksTo(PhaseSnapshot& snapshot, const Membership& group);
-    void TakeSwitch(Switch& object, const Membership& group);
-    void TakeCase(Case& object, const Membership& group);
-    void TakeCheck(Check& check, const Membership& group);
-    void TakeAction(Action& action, bool withPhase, const Membership& group);
+    void Take(EditorObject& member, const Deletion& group);
+    void TakePhase(Phase& phase, const Deletion& group);
+    void TakeLinksOf(std::int32_t phaseId, const Deletion& group);
+    void CutGeometryLinksTo(PhaseSnapshot& snapshot, const Deletion& group);
+    void TakeSwitch(Switch& object, const Deletion& group);
+    void TakeCase(Case& object, const Deletion& group);
+    void TakeCheck(Check& check, const Deletion& group);
+    void TakeAction(Action& action, bool withPhase, const Deletion& group);
     void TakeUnlinker(Unlinker& unlinker);
 
     void RestorePhase(const PhaseSnapshot& snapshot);
@@ -60,8 +60,12 @@ private:
     std::vector<UnlinkerSnapshot> unlinkers;
     // The links that ended on a deleted phase.
     std::vector<Link> links;
-    // What the deletion is about to remove; empty once the command is built.
+    // While the command is built: what it is about to remove, which links it
+    // has taken by their place in the list, and which taken switches list a
+    // case, by the switches' places in `switches`.
     std::vector<EditorObject*> doomed;
+    std::vector<bool> linkTaken;
+    std::unordered_map<std::int32_t, std::vector<std::size_t>> switchesListing;
 };
 
 } // namespace lw

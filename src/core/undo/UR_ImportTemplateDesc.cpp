@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <string>
+#include <unordered_map>
 #include <utility>
 
 namespace lw {
@@ -31,14 +33,45 @@ std::int32_t ClampToInt(std::int64_t value) {
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, INT32_MIN, INT32_MAX));
 }
 
-template <typename T>
-void AppendSuffixWhileTaken(T& object,
-                            bool (ObjectStore::*taken)(std::int32_t, const std::string&) const,
-                            const ObjectStore& store) {
-    const std::string suffix = "_" + std::to_string(object.id);
-    while ((store.*taken)(object.id, object.name))
-        object.name += suffix;
-}
+// How many phases, cases and switches of the store bear each name, kept up
+// to date while imported objects are renamed. An object is in the store
+// under its own name, so its name is taken when more than one bears it: the
+// same answer as a walk over the store, at no walk per object.
+class NameCounts {
+public:
+    explicit NameCounts(const ObjectStore& store) {
+        store.ForEach<Phase>([this](const Phase& phase) { ++phases_[phase.name]; });
+        store.ForEach<Case>([this](const Case& object) { ++cases_[object.name]; });
+        store.ForEach<Switch>([this](const Switch& object) { ++switches_[object.name]; });
+    }
+
+    // Appends "_<id>" to the object's name for as long as another object of
+    // its kind bears it.
+    void MakeUnique(EditorObject& object) {
+        if (auto* phase = As<Phase>(&object))
+            AppendSuffixWhileTaken(phase->name, phase->id, phases_);
+        else if (auto* caseObject = As<Case>(&object))
+            AppendSuffixWhileTaken(caseObject->name, caseObject->id, cases_);
+        else if (auto* switchObject = As<Switch>(&object))
+            AppendSuffixWhileTaken(switchObject->name, switchObject->id, switches_);
+    }
+
+private:
+    using Counts = std::unordered_map<std::string, std::size_t>;
+
+    static void AppendSuffixWhileTaken(std::string& name, std::int32_t id, Counts& counts) {
+        const std::string suffix = "_" + std::to_string(id);
+        while (counts[name] > 1) {
+            --counts[name];
+            name += suffix;
+            ++counts[name];
+        }
+    }
+
+    Counts phases_;
+    Counts cases_;
+    Counts switches_;
+};
 
 } // namespace
 
@@ -56,8 +89,9 @@ void UR_ImportTemplateDesc::Run(bool selectResult) {
     // Names are made unique only now: while building, the imported names had
     // to find the imported objects, and by now everything refers by id.
     AnchorBox box;
+    NameCounts names(*editor);
     for (std::size_t i = 0; i < made.size(); ++i) {
-        MakeNameUnique(*made[i]);
+        names.MakeUnique(*made[i]);
         importedIds.push_back(made[i]->id);
         box.Widen(*made[i], i == 0);
     }
@@ -76,20 +110,12 @@ void UR_ImportTemplateDesc::Run(bool selectResult) {
         editor->selection.Recalculate();
 }
 
-void UR_ImportTemplateDesc::MakeNameUnique(EditorObject& object) const {
-    if (auto* phase = As<Phase>(&object))
-        AppendSuffixWhileTaken(*phase, &ObjectStore::PhaseNameTaken, *editor);
-    else if (auto* caseObject = As<Case>(&object))
-        AppendSuffixWhileTaken(*caseObject, &ObjectStore::CaseNameTaken, *editor);
-    else if (auto* switchObject = As<Switch>(&object))
-        AppendSuffixWhileTaken(*switchObject, &ObjectStore::SwitchNameTaken, *editor);
-}
-
 void UR_ImportTemplateDesc::Undo() {
+    std::vector<EditorObject*> imported;
     for (std::int32_t id : importedIds)
-        editor->RemoveObject(editor->FindObject(id));
-    for (const Link& link : importedLinks)
-        editor->RemoveLink(link);
+        imported.push_back(editor->FindObject(id));
+    editor->RemoveObjects(imported);
+    editor->RemoveLinks(importedLinks);
 }
 
 void UR_ImportTemplateDesc::Redo() {

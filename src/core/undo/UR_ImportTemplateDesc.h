@@ -32,10 +32,6 @@ public:
     std::vector<Link> importedLinks;
     std::int32_t targetX;
     std::int32_t targetY;
-
-private:
-    // Appends "_<id>" to a name its kind already has, until it is free.
-    void MakeNameUnique(EditorObject& object) const;
 };
 
 } // namespace lw

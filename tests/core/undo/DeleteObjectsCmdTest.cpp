@@ -113,6 +113,36 @@ TEST_F(DeleteObjectsTest, OnlyThePhasesFirstUnlinkerGoesWithIt) {
     EXPECT_EQ(ObjectOrder(weaver), (Ids{3, 1, 2}));
 }
 
+// A deletion takes the links phase by phase in the selection's order, each
+// phase's links in list order and each link once; undo appends them in that
+// order. Geometry links are cut from the referrers in list order.
+TEST_F(DeleteObjectsTest, LinksAndReferrersAreTakenInOrder) {
+    for (int i = 0; i < 4; ++i)
+        AddPhase(weaver);
+    const auto link = [&](std::int32_t from, std::int32_t to) {
+        return LinkBetween(Get<Phase>(from), Get<Phase>(to));
+    };
+    weaver.links = {link(3, 4), link(2, 1), link(1, 1), link(1, 2), link(2, 3)};
+    Get<Phase>(4).primaryLinkId = 2;
+    Get<Phase>(3).primaryLinkId = 2;
+    Get<Phase>(4).secondaryLinkId = 1;
+    weaver.RefreshGateMarks();
+    const std::string original = Describe(weaver);
+
+    UR_Command* command = Delete({2, 1});
+    EXPECT_EQ(weaver.links, std::vector<Link>{link(3, 4)});
+    EXPECT_EQ(Get<Phase>(3).primaryLinkId + Get<Phase>(4).primaryLinkId, 0);
+    EXPECT_EQ(Get<Phase>(4).secondaryLinkId, 0);
+    const std::string deleted = Describe(weaver);
+    command->Undo();
+    EXPECT_EQ(weaver.links,
+              (std::vector<Link>{link(3, 4), link(2, 1), link(1, 2), link(2, 3), link(1, 1)}));
+    weaver.links = {link(3, 4), link(2, 1), link(1, 1), link(1, 2), link(2, 3)};
+    EXPECT_EQ(Describe(weaver), original);
+    command->Redo();
+    EXPECT_EQ(Describe(weaver), deleted);
+}
+
 // Switch 1 holds cases 2 and 3; case 2 holds phase 4.
 class DeleteSwitchTest : public DeleteObjectsTest {
 protected:
