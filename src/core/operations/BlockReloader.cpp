@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
+#include <utility>
 
 namespace lw {
 
@@ -160,11 +161,16 @@ void BlockReloader::AddAction(Phase& phase, const std::string& objectName,
 // An action made from a block property goes when the block no longer has the
 // property; one made by hand (no object name) is the user's and stays.
 void BlockReloader::RemoveStaleActions() {
-    // The position steps on after a removal too, so the object that moved
-    // into the freed place is not looked at in this run: a second reload
-    // catches it.
-    for (std::size_t position = 0; position < store_.objects.size(); ++position) {
-        Action* action = As<Action>(store_.objects[position].get());
+    // Removing one at a time, the walk stepped on after a removal too, so the
+    // object that moved into the freed place was not looked at in this run (a
+    // second reload catches it). The walk below skips that same object and
+    // removes them all at the end, at no shift of the store per removal.
+    std::vector<EditorObject*> stale;
+    bool skipNext = false;
+    for (const auto& object : store_.objects) {
+        if (std::exchange(skipNext, false))
+            continue;
+        Action* action = As<Action>(object.get());
         if (action == nullptr || action->objectName.empty())
             continue;
         Phase* phase = store_.FindPhase(action->phaseId);
@@ -173,27 +179,26 @@ void BlockReloader::RemoveStaleActions() {
         log_.push_back("REMOVED: Action: " + action->name + ":" + action->objectName +
                        " from PHASE: " + phase->name);
         phase->RemoveActionId(action->id);
-        store_.RemoveObject(action);
+        stale.push_back(action);
+        skipNext = true;
     }
+    store_.RemoveObjects(stale);
 }
 
 // ---------------------------------------------------------------- links
 
+// Each link is judged by the phases alone, which this does not change, so
+// one pass in list order finds and logs the broken ones in order.
 void BlockReloader::RemoveBrokenLinks() {
-    std::size_t position = 0;
-    while (position < store_.links.size()) {
-        const std::string fault = LinkFault(store_.links[position]);
-        if (fault.empty()) {
-            ++position;
-            continue;
-        }
-        log_.push_back("REMOVED: Link: " + fault);
-        store_.links.erase(store_.links.begin() + static_cast<std::ptrdiff_t>(position));
-        // The link in front, already found sound, is looked at again, so the
-        // one that moved into the freed place is not skipped.
-        if (position > 0)
-            --position;
-    }
+    std::vector<Link>& links = store_.links;
+    links.erase(std::remove_if(links.begin(), links.end(),
+                               [this](const Link& link) {
+                                   const std::string fault = LinkFault(link);
+                                   if (!fault.empty())
+                                       log_.push_back("REMOVED: Link: " + fault);
+                                   return !fault.empty();
+                               }),
+                links.end());
 }
 
 std::string BlockReloader::LinkFault(const Link& link) const {

@@ -1,6 +1,7 @@
 #include "operations/ObjectStore.h"
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 #include <unordered_set>
 
@@ -153,10 +154,13 @@ EditorObject* ObjectStore::Restore(std::unique_ptr<EditorObject> object) {
 void ObjectStore::RemoveObject(EditorObject* object) {
     if (object == nullptr)
         return;
-    const auto found = std::find_if(objects.begin(), objects.end(),
-                                    [&](const auto& owned) { return owned.get() == object; });
-    if (found == objects.end())
+    // Searched from the end: what is removed alone is mostly what was just
+    // made, such as a phase that a template gave no blocks.
+    const auto last = std::find_if(objects.rbegin(), objects.rend(),
+                                   [&](const auto& owned) { return owned.get() == object; });
+    if (last == objects.rend())
         return;
+    const auto found = std::prev(last.base());
     const auto indexed = objectIndex.find(object->id);
     if (indexed != objectIndex.end() && indexed->second == object)
         objectIndex.erase(indexed);

@@ -10,8 +10,7 @@ void UR_DeleteLinksCmd::Undo() {
 }
 
 void UR_DeleteLinksCmd::Redo() {
-    for (const Link& link : links)
-        editor->RemoveLink(link);
+    editor->RemoveLinks(links);
     editor->RefreshGateMarks();
 }
 
