@@ -61,11 +61,11 @@ const GuiHelperDesc* GuiHelperPool::TakeByOwner(const std::string& objectName,
     EnsureTaken();
     if (!indexedByOwner_) {
         IndexRecords(helpers_, byOwner_, [](const GuiHelperDesc& h) {
-            return OwnerKey{h.objectName, h.ownerName, h.detail};
+            return NameTriple{h.objectName, h.ownerName, h.detail};
         });
         indexedByOwner_ = true;
     }
-    return Take(QueueOf(byOwner_, OwnerKey{objectName, ownerName, detail}));
+    return Take(QueueOf(byOwner_, NameTriple{objectName, ownerName, detail}));
 }
 
 const GuiHelperDesc* GuiHelperPool::FindByStrippedName(const std::string& strippedName) {

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "document/TemplateDesc.h"
+#include "operations/NameTriple.h"
 
-#include <map>
 #include <string>
-#include <tuple>
 #include <unordered_map>
 #include <vector>
 
@@ -38,7 +37,6 @@ private:
         std::vector<std::size_t> records;
         std::size_t next = 0;
     };
-    using OwnerKey = std::tuple<std::string, std::string, std::string>;
 
     // The first record of the queue not taken yet, or null.
     const GuiHelperDesc* Front(Queue& queue);
@@ -51,7 +49,7 @@ private:
     bool indexedByOwner_ = false;
     bool indexedByStrippedName_ = false;
     std::unordered_map<std::string, Queue> byName_;
-    std::map<OwnerKey, Queue> byOwner_;
+    std::unordered_map<NameTriple, Queue, NameTripleHash> byOwner_;
     std::unordered_map<std::string, Queue> byStrippedName_;
 };
 

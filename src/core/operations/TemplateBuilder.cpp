@@ -263,7 +263,7 @@ void TemplateBuilder::BuildActions(TemplateDesc& desc, ObjectList* list) {
     const NameIndex<Phase> phases(scope);
     // Actions by their phase's name, object name and name, the first in
     // scope order; the actions made below join the end of the scope.
-    std::map<ActionKey, Action*> actions;
+    ActionIndex actions;
     GuiHelperPool helpers(desc.guiHelpers);
     for (EditorObject* object : scope) {
         if (Action* action = As<Action>(object))
@@ -295,10 +295,10 @@ void TemplateBuilder::BuildActions(TemplateDesc& desc, ObjectList* list) {
     }
 }
 
-void TemplateBuilder::IndexAction(std::map<ActionKey, Action*>& actions, Action& action) const {
+void TemplateBuilder::IndexAction(ActionIndex& actions, Action& action) const {
     // An action whose phase is gone is found by no name.
     if (const Phase* phase = store_.FindPhase(action.phaseId))
-        actions.emplace(ActionKey{phase->name, action.objectName, action.name}, &action);
+        actions.emplace(NameTriple{phase->name, action.objectName, action.name}, &action);
 }
 
 // ---------------------------------------------------------------- unlinkers

@@ -4,13 +4,14 @@
 #include "document/TemplateDesc.h"
 #include "objects/Link.h"
 #include "operations/NameIndex.h"
+#include "operations/NameTriple.h"
 #include "operations/ObjectStore.h"
 #include "platform/UserPrompts.h"
 
 #include <cstdint>
 #include <map>
 #include <string>
-#include <tuple>
+#include <unordered_map>
 #include <vector>
 
 namespace lw {
@@ -67,8 +68,8 @@ private:
                  std::vector<Link>* madeLinks);
 
     // Actions are found by their phase's name, their object name and name.
-    using ActionKey = std::tuple<std::string, std::string, std::string>;
-    void IndexAction(std::map<ActionKey, Action*>& actions, Action& action) const;
+    using ActionIndex = std::unordered_map<NameTriple, Action*, NameTripleHash>;
+    void IndexAction(ActionIndex& actions, Action& action) const;
 
     ObjectStore& store_;
     BlocksContainer& blockPool_;
