@@ -42,7 +42,13 @@ std::string QtFileSystem::CanonicalPath(const std::string& path) const {
 
 bool QtFileSystem::IsReadOnly(const std::string& path) const {
     const QFileInfo info(PathToQString(path));
-    return info.exists() && !info.isDir() && !info.isWritable();
+    if (!info.exists() || info.isDir())
+        return false;
+    // A file that no one may write is protected by its owner, even where the
+    // system would let this user write it, as it lets the superuser.
+    const QFile::Permissions anyWrite =
+        QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    return (info.permissions() & anyWrite) == 0 || !info.isWritable();
 }
 
 bool QtFileSystem::ReplaceFile(const std::string& path, const std::string& bytes) {

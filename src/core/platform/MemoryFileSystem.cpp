@@ -95,7 +95,9 @@ bool MemoryFileSystem::ReplaceFile(const std::string& path, const std::string& b
     // A bare name lives in the working folder, which always exists.
     const std::string folder = ParentOf(key);
     const bool folderExists = folder.empty() || KindOf(folder) == PathKind::Directory;
-    if (failing || !folderExists || KindOf(key) == PathKind::Directory || IsReadOnly(key))
+    const bool folderWritable = readOnly_.count(folder) == 0;
+    if (failing || !folderExists || !folderWritable || KindOf(key) == PathKind::Directory ||
+        IsReadOnly(key))
         return false;
     files_[key] = bytes;
     return true;

@@ -17,7 +17,9 @@ public:
     void Remove(const std::string& path);
     // A file that exists but cannot be opened, as one without read permission.
     void MakeUnreadable(const std::string& path);
-    // A file that may be read but not written, until it is removed.
+    // A file that may be read but not written, until it is removed. A folder
+    // made read-only takes no new file and lets none of its files be replaced,
+    // as a folder without write permission does.
     void MakeReadOnly(const std::string& path);
     // The next ReplaceFile fails as a full disk would make it: nothing changes.
     void FailNextReplace() { failNextReplace_ = true; }

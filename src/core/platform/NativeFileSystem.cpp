@@ -28,8 +28,15 @@ bool IsReadOnlyFile(const fs::path& path) {
     // The read-only attribute shows as a file without write permission.
     return (status.permissions() & fs::perms::owner_write) == fs::perms::none;
 #else
-    // Whether this user may write it, as the system decides: owner, group,
-    // access lists and read-only mounts all count.
+    // A file that no one may write is protected by its owner, and a save must
+    // not overrule that even where the system would let it: the superuser
+    // may write any file.
+    const fs::perms anyWrite =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    if ((status.permissions() & anyWrite) == fs::perms::none)
+        return true;
+    // Otherwise whether this user may write it, as the system decides: owner,
+    // group, access lists and read-only mounts all count.
     return ::access(path.c_str(), W_OK) != 0;
 #endif
 }
