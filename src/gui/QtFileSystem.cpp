@@ -46,8 +46,7 @@ bool QtFileSystem::IsReadOnly(const std::string& path) const {
         return false;
     // A file that no one may write is protected by its owner, even where the
     // system would let this user write it, as it lets the superuser.
-    const QFile::Permissions anyWrite =
-        QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    const QFile::Permissions anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
     return (info.permissions() & anyWrite) == 0 || !info.isWritable();
 }
 

@@ -1,11 +1,15 @@
 #include "operations/GuiHelperPool.h"
 
-#include "objects/Unlinker.h"
 #include "operations/EraseMarked.h"
 
 namespace lw {
 
 namespace {
+
+// StripSetPrefix as a view into the name itself.
+std::string_view StrippedView(const std::string& name) {
+    return std::string_view(name).substr(name.size() < 8 ? 0 : 7);
+}
 
 template <typename Index, typename KeyOf>
 void IndexRecords(const std::vector<GuiHelperDesc>& helpers, Index& index, KeyOf keyOf) {
@@ -49,10 +53,11 @@ const GuiHelperDesc* GuiHelperPool::Take(Queue* queue) {
 const GuiHelperDesc* GuiHelperPool::TakeByName(const std::string& objectName) {
     EnsureTaken();
     if (!indexedByName_) {
-        IndexRecords(helpers_, byName_, [](const GuiHelperDesc& h) { return h.objectName; });
+        IndexRecords(helpers_, byName_,
+                     [](const GuiHelperDesc& h) { return std::string_view(h.objectName); });
         indexedByName_ = true;
     }
-    return Take(QueueOf(byName_, objectName));
+    return Take(QueueOf(byName_, std::string_view(objectName)));
 }
 
 const GuiHelperDesc* GuiHelperPool::TakeByOwner(const std::string& objectName,
@@ -72,10 +77,10 @@ const GuiHelperDesc* GuiHelperPool::FindByStrippedName(const std::string& stripp
     EnsureTaken();
     if (!indexedByStrippedName_) {
         IndexRecords(helpers_, byStrippedName_,
-                     [](const GuiHelperDesc& h) { return StripSetPrefix(h.objectName); });
+                     [](const GuiHelperDesc& h) { return StrippedView(h.objectName); });
         indexedByStrippedName_ = true;
     }
-    Queue* queue = QueueOf(byStrippedName_, strippedName);
+    Queue* queue = QueueOf(byStrippedName_, std::string_view(strippedName));
     return queue == nullptr ? nullptr : Front(*queue);
 }
 

@@ -4,6 +4,7 @@
 #include "operations/NameTriple.h"
 
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -48,9 +49,11 @@ private:
     bool indexedByName_ = false;
     bool indexedByOwner_ = false;
     bool indexedByStrippedName_ = false;
-    std::unordered_map<std::string, Queue> byName_;
+    // Keyed by views of the records' own texts, which stay put until the
+    // pool ends.
+    std::unordered_map<std::string_view, Queue> byName_;
     std::unordered_map<NameTriple, Queue, NameTripleHash> byOwner_;
-    std::unordered_map<std::string, Queue> byStrippedName_;
+    std::unordered_map<std::string_view, Queue> byStrippedName_;
 };
 
 } // namespace lw

@@ -3,6 +3,7 @@
 #include "operations/ObjectStore.h"
 
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 
@@ -38,7 +39,9 @@ public:
     }
 
 private:
-    std::unordered_map<std::string, std::pair<T*, T*>> byName_;
+    // Keyed by views of the objects' own names, which stay put while the
+    // index is in use.
+    std::unordered_map<std::string_view, std::pair<T*, T*>> byName_;
 };
 
 } // namespace lw
