@@ -37,12 +37,15 @@ TemplateBuilder::TemplateBuilder(ObjectStore& store, BlocksContainer& blockPool,
     : store_(store), blockPool_(blockPool), prompts_(prompts) {}
 
 void TemplateBuilder::Build(TemplateDesc& desc, ObjectList* list, std::vector<Link>* madeLinks) {
-    BuildPhases(desc, list);
+    // One pool for all steps indexes the records once; a record taken by one
+    // step is gone for the later ones, as if erased at once.
+    GuiHelperPool helpers(desc.guiHelpers);
+    BuildPhases(desc, list, helpers);
     BuildLinks(desc, list, madeLinks);
-    BuildCasesAndSwitches(desc, list);
-    BuildChecks(desc, list);
-    BuildActions(desc, list);
-    BuildUnlinkers(desc, list);
+    BuildCasesAndSwitches(desc, list, helpers);
+    BuildChecks(desc, list, helpers);
+    BuildActions(desc, list, helpers);
+    BuildUnlinkers(desc, list, helpers);
 }
 
 ObjectList TemplateBuilder::SearchScope(const ObjectList* list) const {
@@ -61,10 +64,9 @@ void TemplateBuilder::ShowStop(const std::string& text) {
 
 // ---------------------------------------------------------------- phases
 
-void TemplateBuilder::BuildPhases(TemplateDesc& desc, ObjectList* list) {
+void TemplateBuilder::BuildPhases(TemplateDesc& desc, ObjectList* list, GuiHelperPool& helpers) {
     // A phase without a gui helper takes the colour of the phase before it.
     std::int32_t colorIndex = 0;
-    GuiHelperPool helpers(desc.guiHelpers);
     BlockSetPool blockSets(desc.blockSets);
     for (const PhaseDesc& phaseDesc : desc.phases) {
         Phase* phase = store_.NewPhase();
@@ -195,9 +197,9 @@ bool TemplateBuilder::AddLink(const LinkDesc& linkDesc, const NameIndex<Phase>& 
 
 // ---------------------------------------------------------------- cases and switches
 
-void TemplateBuilder::BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list) {
+void TemplateBuilder::BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list,
+                                            GuiHelperPool& helpers) {
     const NameIndex<Phase> phases(SearchScope(list));
-    GuiHelperPool helpers(desc.guiHelpers);
     for (const CaseDesc& caseDesc : desc.cases) {
         Case* object = store_.NewCase();
         object->name = caseDesc.name;
@@ -238,9 +240,8 @@ void TemplateBuilder::BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list
 
 // A check or action whose phase is unknown stays in the store as it was made,
 // without phase or position, and is not collected.
-void TemplateBuilder::BuildChecks(TemplateDesc& desc, ObjectList* list) {
+void TemplateBuilder::BuildChecks(TemplateDesc& desc, ObjectList* list, GuiHelperPool& helpers) {
     const NameIndex<Phase> phases(SearchScope(list));
-    GuiHelperPool helpers(desc.guiHelpers);
     for (const CheckDesc& checkDesc : desc.checks) {
         Check* check = store_.NewCheck();
         Phase* phase = phases.First(checkDesc.phaseName);
@@ -258,13 +259,12 @@ void TemplateBuilder::BuildChecks(TemplateDesc& desc, ObjectList* list) {
 
 // Each record is one rule; the records of one action are merged into the
 // action that the first of them made.
-void TemplateBuilder::BuildActions(TemplateDesc& desc, ObjectList* list) {
+void TemplateBuilder::BuildActions(TemplateDesc& desc, ObjectList* list, GuiHelperPool& helpers) {
     const ObjectList scope = SearchScope(list);
     const NameIndex<Phase> phases(scope);
     // Actions by their phase's name, object name and name, the first in
     // scope order; the actions made below join the end of the scope.
     ActionIndex actions;
-    GuiHelperPool helpers(desc.guiHelpers);
     for (EditorObject* object : scope) {
         if (Action* action = As<Action>(object))
             IndexAction(actions, *action);
@@ -305,14 +305,13 @@ void TemplateBuilder::IndexAction(ActionIndex& actions, Action& action) const {
 
 // The input and output records of a phase make one unlinker; the second
 // record only sets its gates.
-void TemplateBuilder::BuildUnlinkers(TemplateDesc& desc, ObjectList* list) {
+void TemplateBuilder::BuildUnlinkers(TemplateDesc& desc, ObjectList* list, GuiHelperPool& helpers) {
     const ObjectList scope = SearchScope(list);
     const NameIndex<Phase> phases(scope);
     // The first unlinker of each phase in scope order.
     std::map<std::int32_t, Unlinker*> unlinkers;
     // An unlinker's record is named after its phase behind any seven
     // characters, and it is not used up.
-    GuiHelperPool helpers(desc.guiHelpers);
     for (EditorObject* object : scope) {
         if (Unlinker* unlinker = As<Unlinker>(object))
             unlinkers.emplace(unlinker->phaseId, unlinker);

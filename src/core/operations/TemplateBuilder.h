@@ -42,12 +42,14 @@ public:
     void Build(TemplateDesc& desc, ObjectList* list = nullptr,
                std::vector<Link>* madeLinks = nullptr);
 
-    void BuildPhases(TemplateDesc& desc, ObjectList* list);
+    // The steps that take gui helper records take them from one pool, which
+    // erases the records taken when it ends.
+    void BuildPhases(TemplateDesc& desc, ObjectList* list, GuiHelperPool& helpers);
     void BuildLinks(TemplateDesc& desc, ObjectList* list, std::vector<Link>* madeLinks);
-    void BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list);
-    void BuildChecks(TemplateDesc& desc, ObjectList* list);
-    void BuildActions(TemplateDesc& desc, ObjectList* list);
-    void BuildUnlinkers(TemplateDesc& desc, ObjectList* list);
+    void BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list, GuiHelperPool& helpers);
+    void BuildChecks(TemplateDesc& desc, ObjectList* list, GuiHelperPool& helpers);
+    void BuildActions(TemplateDesc& desc, ObjectList* list, GuiHelperPool& helpers);
+    void BuildUnlinkers(TemplateDesc& desc, ObjectList* list, GuiHelperPool& helpers);
 
 private:
     // The objects a search walks: the list if given, else the whole store.

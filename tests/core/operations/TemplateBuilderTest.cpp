@@ -1,5 +1,6 @@
 #include "operations/TemplateBuilder.h"
 
+#include "operations/GuiHelperPool.h"
 #include "platform/MemoryFileSystem.h"
 #include "platform/RecordingPrompts.h"
 
@@ -289,7 +290,8 @@ TEST_F(TemplateBuilderTest, TheUnlinkRecordsOfAPhaseMakeOneUnlinker) {
     // A later record replaces the gates and leaves the unlinker where it is.
     unlinker.posX = 99;
     desc.unlinks = {{false, "unlink_P", {"new"}}};
-    builder.BuildUnlinkers(desc, nullptr);
+    GuiHelperPool helpers(desc.guiHelpers);
+    builder.BuildUnlinkers(desc, nullptr, helpers);
     EXPECT_EQ(store.objects.size(), 4u);
     EXPECT_EQ(unlinker.outputGates, Strings{"new"});
     EXPECT_EQ(unlinker.posX, 99);
