@@ -2,8 +2,8 @@
 
 #include "document/Keywords.h"
 #include "document/ParserUtils.h"
-#include "document/WordLines.h"
 #include "text/Text.h"
+#include "text/TextLines.h"
 
 #include <algorithm>
 #include <cctype>
@@ -22,7 +22,8 @@ namespace {
 using Words = std::vector<std::string>;
 
 // One line as the tag rules see it: most read the words, but action and
-// gui_helper cut the raw text by position, since their parts may hold brackets.
+// gui_helper cut the raw text by position, since their parts may hold brackets,
+// and are given no words.
 struct TemplateLine {
     const std::string& text;
     const Words& words;
@@ -285,41 +286,62 @@ using TagRule = void (*)(TemplateDesc&, const TemplateLine&);
 struct Tag {
     const char* keyword;
     TagRule read;
+    // Whether the rule reads the line's words rather than its text.
+    bool byWords;
 };
 
 // In the order of comparison.
 const Tag kTags[] = {
-    {"blocks_set", ReadBlockSet},
-    {"phase", ReadPhase},
-    {"case", ReadCase},
-    {"switch", ReadSwitch},
-    {"tlink", ReadTargetLink},
-    {"olink", ReadObjectLink},
-    {"check", ReadCheck},
-    {"action", ReadAction},
-    {"unlink_nonplayer_input", ReadUnlinkInput},
-    {"unlink_nonplayer_output", ReadUnlinkOutput},
-    {"gui_helper", ReadGuiHelper},
+    {"blocks_set", ReadBlockSet, true},
+    {"phase", ReadPhase, true},
+    {"case", ReadCase, true},
+    {"switch", ReadSwitch, true},
+    {"tlink", ReadTargetLink, true},
+    {"olink", ReadObjectLink, true},
+    {"check", ReadCheck, true},
+    {"action", ReadAction, false},
+    {"unlink_nonplayer_input", ReadUnlinkInput, true},
+    {"unlink_nonplayer_output", ReadUnlinkOutput, true},
+    {"gui_helper", ReadGuiHelper, false},
 };
 
-void ReadLine(TemplateDesc& desc, const std::string& text, const Words& words) {
-    if (words.size() < 2)
-        return;
+// The rule of the line's first word, split as all its words would be split,
+// when a second word follows; a line of fewer words is dropped.
+const Tag* TagOf(const std::string& text) {
+    std::size_t pos = 0;
+    ParserUtils::eatAuxChars(text, pos);
+    if (AtEnd(text, pos))
+        return nullptr;
+    const std::string keyword = ParserUtils::getNextWord(text, pos);
+    ParserUtils::eatAuxChars(text, pos);
+    if (AtEnd(text, pos))
+        return nullptr;
     for (const Tag& tag : kTags) {
-        if (words[0] == tag.keyword) {
-            tag.read(desc, TemplateLine{text, words});
-            return;
-        }
+        if (keyword == tag.keyword)
+            return &tag;
     }
+    return nullptr;
 }
 
 } // namespace
 
+// The words of most lines are split only once their tag is known to read
+// them: the gui helper and action lines that make up most of a template are
+// cut from their text alone.
 void ReadTemplateDesc(TemplateDesc& desc, std::istream& stream) {
     std::string text;
     Words words;
-    while (ReadWordLine(stream, text, words))
-        ReadLine(desc, text, words);
+    while (ReadTextLine(stream, text)) {
+        if (text.empty() || text[0] == '#')
+            continue;
+        const Tag* tag = TagOf(text);
+        if (tag == nullptr)
+            continue;
+        words.clear();
+        if (tag->byWords)
+            ParserUtils::parseLineIntoWords(words, text);
+        tag->read(desc, TemplateLine{text, words});
+    }
 }
 
 } // namespace lw
