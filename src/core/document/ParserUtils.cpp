@@ -18,6 +18,22 @@ std::string trimBlanks(const std::string& text) {
     return text.substr(begin, end - begin);
 }
 
+// The ")" that closes the "(" at `open`, counting the pairs inside; npos when
+// the line ends first.
+std::size_t MatchingBracket(const std::string& line, std::size_t open) {
+    int depth = 0;
+    for (std::size_t i = open + 1; i < line.size(); ++i) {
+        if (line[i] == '(') {
+            ++depth;
+        } else if (line[i] == ')') {
+            if (depth == 0)
+                return i;
+            --depth;
+        }
+    }
+    return std::string::npos;
+}
+
 } // namespace
 
 bool ParserUtils::isAuxChar(char c) {
@@ -44,6 +60,11 @@ void ParserUtils::parseLineIntoWords(std::vector<std::string>& words, const std:
         eatAuxChars(line, pos);
         if (pos >= line.size())
             return;
+        // A stray quote only separates, and makes no empty word at the end.
+        if (line[pos] == '"' && line.find('"', pos + 1) == std::string::npos) {
+            ++pos;
+            continue;
+        }
         words.push_back(getNextWord(line, pos));
     }
 }
@@ -54,8 +75,16 @@ void ParserUtils::eatAuxChars(const std::string& line, std::size_t& pos) {
 }
 
 std::string ParserUtils::getNextWord(const std::string& line, std::size_t& pos) {
-    if (pos < line.size() && line[pos] == '"')
-        return getNextEmbracedWord(line, pos, '"');
+    if (pos < line.size() && line[pos] == '"') {
+        if (line.find('"', pos + 1) != std::string::npos)
+            return getNextEmbracedWord(line, pos, '"');
+        // Taking the rest of the line would make a word of separators, which
+        // the writer puts back as they are and the next reading splits. A
+        // stray quote separates instead, and the word behind it reads the same
+        // every time.
+        ++pos;
+        eatAuxChars(line, pos);
+    }
     const std::size_t begin = pos;
     while (pos < line.size() && !isAuxChar(line[pos]))
         ++pos;
@@ -84,14 +113,19 @@ void ParserUtils::getParamsInBrackets(std::vector<std::string>& params, const st
         return;
     }
     // Brackets nest, so that an entry such as "f(a,b)" stays whole; a comma
-    // splits only at the outer level.
+    // splits only at the outer level. Where an inner bracket is never closed,
+    // the pair ends at the first ")" instead: the entries then hold no ")",
+    // and written back in a pair they read back the same.
+    std::size_t close = MatchingBracket(line, open);
+    if (close == std::string::npos)
+        close = line.find(')', open + 1);
+    const std::size_t end = close == std::string::npos ? line.size() : close;
+    pos = close == std::string::npos ? line.size() : close + 1;
+
     std::vector<std::string> entries(1);
     int depth = 0;
-    std::size_t i = open + 1;
-    for (; i < line.size(); ++i) {
+    for (std::size_t i = open + 1; i < end; ++i) {
         const char c = line[i];
-        if (c == ')' && depth == 0)
-            break;
         if (c == '(')
             ++depth;
         else if (c == ')')
@@ -101,8 +135,6 @@ void ParserUtils::getParamsInBrackets(std::vector<std::string>& params, const st
         else
             entries.back() += c;
     }
-    pos = i < line.size() ? i + 1 : line.size();
-
     if (entries.size() == 1 && trimBlanks(entries.front()).empty())
         return;
     for (const std::string& entry : entries)

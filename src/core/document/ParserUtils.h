@@ -20,7 +20,9 @@ public:
     static void eatAuxChars(const std::string& line, std::size_t& pos);
 
     // The word that begins at pos; pos moves behind it. A word that begins with
-    // a double quote is read as an embraced word.
+    // a double quote is read as an embraced word; a quote that is never closed
+    // is passed over with the separators behind it, and the plain word after
+    // them read.
     static std::string getNextWord(const std::string& line, std::size_t& pos);
 
     // pos stands on an opening delimiter; returns the text up to `closing` and

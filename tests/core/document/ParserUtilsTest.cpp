@@ -45,6 +45,12 @@ TEST(ParserUtilsWords, QuotedTextIsOneWord) {
     EXPECT_EQ(Words("gui_helper; n; 10; 20;\"\"; ( ); 3;"),
               (Strings{"gui_helper", "n", "10", "20", "", "3"}));
     EXPECT_EQ(Words("Name \"open"), (Strings{"Name", "open"}));
+    // A quote never closed is passed over, so no word holds a separator.
+    EXPECT_EQ(Words("coalition(\"e); x"), (Strings{"coalition", "e", "x"}));
+    EXPECT_EQ(Words("a(b,\")"), (Strings{"a", "b"}));
+    std::size_t pos = 0;
+    EXPECT_EQ(ParserUtils::getNextWord("\" set(a)", pos), "set");
+    EXPECT_EQ(pos, 5u);
 }
 
 TEST(ParserUtilsWords, GetNextWordStopsBeforeBracketAndSkipsNothing) {
