@@ -2,6 +2,7 @@
 
 #include "document/TemplateWriter.h"
 #include "support/TestFiles.h"
+#include "synth/SyntheticTemplate.h"
 
 #include <gtest/gtest.h>
 #include <iterator>
@@ -12,6 +13,11 @@ SampleEditor::SampleEditor() {
     CopyFolderIntoMemory(SampleDataDir(), disk, kData);
     weaver.SetViewHost(&host);
     weaver.SetView(&view);
+}
+
+void SampleEditor::AddGeneratedData(int phases) {
+    for (const auto& [path, bytes] : synth::GenerateSyntheticData({phases, "P"}).files)
+        disk.AddFile(std::string(kData) + "/" + path, bytes);
 }
 
 void SampleEditor::StartUp() {

@@ -21,6 +21,10 @@ public:
 
     SampleEditor();
 
+    // Puts a generated template of that many phases into the data folder as
+    // "scg\\synthetic.mt", with the configuration and blocks it loads with,
+    // which replace the sample's configuration.
+    void AddGeneratedData(int phases);
     // Starts on the data folder with an empty document.
     void StartUp();
     // Opens a template of the data folder, such as "scg\\sample_rich.mt".

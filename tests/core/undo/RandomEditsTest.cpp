@@ -24,8 +24,13 @@ namespace {
 
 class RandomEdits {
 public:
-    explicit RandomEdits(unsigned seed) : random_(seed) {
-        e.Open("scg\\sample_rich.mt");
+    // On the rich sample, or on a generated template of that many phases.
+    explicit RandomEdits(unsigned seed, int generatedPhases = 0) : random_(seed) {
+        if (generatedPhases > 0) {
+            e.AddGeneratedData(generatedPhases);
+            rebuilt.AddGeneratedData(generatedPhases);
+        }
+        e.Open(generatedPhases > 0 ? "scg\\synthetic.mt" : "scg\\sample_rich.mt");
         e.weaver.options.DrawInputOutputs = e.weaver.options.DrawSwitchAndCases = true;
         e.weaver.options.DrawChecks = e.weaver.options.DrawActions = true;
         e.weaver.options.DrawGeometry = true;
@@ -288,8 +293,9 @@ public:
 } // namespace
 
 TEST(RandomEditsTest, DocumentsHoldTogetherThroughLongRunsOfEditsUndoAndRedo) {
-    for (unsigned seed = 1; seed <= 4; ++seed) {
-        RandomEdits run(seed);
+    // The generated template has every kind of object and link many times.
+    for (unsigned seed = 1; seed <= 6; ++seed) {
+        RandomEdits run(seed, seed > 4 ? 48 : 0);
         for (int step = 0; step < 300; ++step) {
             const std::string what = run.Step();
             SCOPED_TRACE("seed " + std::to_string(seed) + ", step " + std::to_string(step) + ": " +
