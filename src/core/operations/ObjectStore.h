@@ -10,9 +10,9 @@
 #include "objects/Unlinker.h"
 
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace lw {
@@ -93,7 +93,8 @@ public:
     std::vector<Link> links;
     ObjectsGroup selection;
     std::int32_t nextId = 1;
-    std::map<std::int32_t, EditorObject*> objectIndex;
+    // Every object by its id, for lookups that cost no walk of the list.
+    std::unordered_map<std::int32_t, EditorObject*> objectIndex;
 
 protected:
     // Called just before an object is destroyed, so that nothing that only
