@@ -17,33 +17,73 @@ void ObjectsGroup::Recalculate() {
 }
 
 bool ObjectsGroup::Contains(const EditorObject* object) const {
-    return memberSet_.count(object) != 0;
+    if (HasSlot(object)) {
+        const auto slot = static_cast<std::size_t>(object->id);
+        const EditorObject* holder = slot < byId_.size() ? byId_[slot] : nullptr;
+        if (holder == object)
+            return true;
+        if (holder == nullptr)
+            return false;
+    }
+    return std::find(members.begin(), members.end(), object) != members.end();
+}
+
+const EditorObject*& ObjectsGroup::SlotOf(const EditorObject* object) {
+    const auto slot = static_cast<std::size_t>(object->id);
+    if (slot >= byId_.size())
+        byId_.resize(slot + 1, nullptr);
+    return byId_[slot];
 }
 
 void ObjectsGroup::Add(EditorObject* object) {
-    if (memberSet_.insert(object).second)
-        members.push_back(object);
+    if (Contains(object))
+        return;
+    members.push_back(object);
+    if (HasSlot(object) && SlotOf(object) == nullptr)
+        SlotOf(object) = object;
 }
 
 void ObjectsGroup::Remove(const EditorObject* object) {
-    if (memberSet_.erase(object) != 0)
-        members.erase(std::find(members.begin(), members.end(), object));
+    const auto found = std::find(members.begin(), members.end(), object);
+    if (found == members.end())
+        return;
+    members.erase(found);
+    if (HasSlot(object) && SlotOf(object) == object) {
+        SlotOf(object) = nullptr;
+        RefillSlots();
+    }
 }
 
 void ObjectsGroup::RemoveAll(const std::unordered_set<const EditorObject*>& objects) {
     const std::size_t before = members.size();
     members.erase(std::remove_if(members.begin(), members.end(),
                                  [&](const EditorObject* member) {
-                                     return objects.count(member) != 0 && memberSet_.erase(member);
+                                     if (objects.count(member) == 0)
+                                         return false;
+                                     if (HasSlot(member) && SlotOf(member) == member)
+                                         SlotOf(member) = nullptr;
+                                     return true;
                                  }),
                   members.end());
-    if (members.size() != before)
-        Recalculate();
+    if (members.size() == before)
+        return;
+    RefillSlots();
+    Recalculate();
+}
+
+void ObjectsGroup::RefillSlots() {
+    for (const EditorObject* member : members) {
+        if (HasSlot(member) && SlotOf(member) == nullptr)
+            SlotOf(member) = member;
+    }
 }
 
 void ObjectsGroup::Clear() {
+    for (const EditorObject* member : members) {
+        if (HasSlot(member))
+            SlotOf(member) = nullptr;
+    }
     members.clear();
-    memberSet_.clear();
     Recalculate();
 }
 

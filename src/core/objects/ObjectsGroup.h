@@ -3,6 +3,7 @@
 #include "objects/EditorObject.h"
 #include "objects/ViewTransform.h"
 
+#include <cstdint>
 #include <unordered_set>
 #include <vector>
 
@@ -40,9 +41,19 @@ public:
     const ViewTransform* view = nullptr;
 
 private:
-    // The members again, so that asking about one costs no walk of a large
-    // selection.
-    std::unordered_set<const EditorObject*> memberSet_;
+    // The members again by their ids, so that asking about one costs no walk
+    // of a large selection. A slot holds a member of that id whenever there
+    // is one; only when objects share an id, which those of one store never
+    // do, are the others looked for in `members`, as are objects with ids
+    // beyond a sane range, or none.
+    static constexpr std::int32_t kMaxSlot = 1 << 24;
+    static bool HasSlot(const EditorObject* object) {
+        return object != nullptr && object->id >= 0 && object->id < kMaxSlot;
+    }
+    const EditorObject*& SlotOf(const EditorObject* object);
+    // Gives each empty slot a member of its id again, after removals.
+    void RefillSlots();
+    std::vector<const EditorObject*> byId_;
 };
 
 } // namespace lw

@@ -342,3 +342,20 @@ TEST_F(ScenePaintTest, CanvasTakesItsFontAndFrameFirstAndLabelsShrinkToDotsWhenZ
                                       "pen solid 1 0,0,0", "brush 255,255,255",
                                       "rectangle 0,0,10,7", "text \"Tiny\" 5,5,5,2 centre noclip"));
 }
+
+// A file may place anything at the very edge of the coordinate range; the
+// sums the scene makes of such positions stay within it (the sanitized run
+// would stop on an overflow).
+TEST_F(ScenePaintTest, ObjectsAtTheEdgeOfTheRangePaintWithinIt) {
+    Phase* far = AddPhase(INT32_MAX, INT32_MIN);
+    far->inputs = {GateSlot{"in", true}};
+    far->outputs = {GateSlot{"out", true}};
+    Phase* near = AddPhase(INT32_MIN, INT32_MAX, GenerationAt);
+    near->primaryLinkId = far->id;
+    Check* check = Placed(weaver.NewCheck(), INT32_MAX, INT32_MAX);
+    check->phaseId = far->id;
+    for (float scale : {1.0f, 2.0f}) {
+        const Calls calls = Paint(scale, INT32_MAX, INT32_MIN);
+        EXPECT_FALSE(calls.empty());
+    }
+}
