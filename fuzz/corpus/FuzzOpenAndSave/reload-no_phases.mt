@@ -1,0 +1,1 @@
+# A template without phases: the log has its section lines and nothing else.

@@ -1,0 +1,13 @@
+check; P1;
+check; P1; squad();
+check; P1; squad(1943-05-12,3,extra);
+check; P2; location_type(city,airfield,port,river);
+check; P3; coalition(1,2);
+check; P4; range(PRIMARY_LINK_PHASE,1000);
+check; P4; range(PRIMARY_LINK_PHASE,1000,5000,9);
+check; P5; in_radius(PRIMARY_LINK_PHASE,);
+check; P5; in_radius(PRIMARY_LINK_PHASE,5000);
+check; P6; in_sector(PRIMARY_LINK_PHASE,3,4);
+check; P7; free(a);
+check; P8; nonsense(a,b);
+check; P9; in_radius;
