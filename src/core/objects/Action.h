@@ -22,14 +22,16 @@ inline bool operator==(const ActionRule& a, const ActionRule& b) {
 }
 
 // A named list of rules that set a property of what the phase creates.
-class Action : public EditorObject {
+class Action final : public EditorObject {
 public:
+    static constexpr ObjectKind kKind = ObjectKind::Action;
+
     explicit Action(std::int32_t id) : EditorObject(id) {}
 
     ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override {
         return CentredScreenRect(viewX, viewY, scale, 80, 15);
     }
-    ObjectKind GetKind() const override { return ObjectKind::Action; }
+    ObjectKind GetKind() const override { return kKind; }
 
     std::int32_t phaseId = 0;
     // The block property the action was made from; empty for one added by hand.

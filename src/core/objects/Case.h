@@ -10,15 +10,17 @@
 namespace lw {
 
 // A group of phases among which the generator picks; a circle of radius 40.
-class Case : public EditorObject {
+class Case final : public EditorObject {
 public:
+    static constexpr ObjectKind kKind = ObjectKind::Case;
+
     explicit Case(std::int32_t id) : EditorObject(id) {}
 
     ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override {
         return CentredScreenRect(viewX, viewY, scale, GetRadius(), GetRadius());
     }
     int GetRadius() const override { return 40; }
-    ObjectKind GetKind() const override { return ObjectKind::Case; }
+    ObjectKind GetKind() const override { return kKind; }
 
     std::string name;
     std::vector<std::int32_t> phaseIds;

@@ -10,14 +10,16 @@
 namespace lw {
 
 // A condition on where the generator may place a phase.
-class Check : public EditorObject {
+class Check final : public EditorObject {
 public:
+    static constexpr ObjectKind kKind = ObjectKind::Check;
+
     explicit Check(std::int32_t id) : EditorObject(id) {}
 
     ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override {
         return CentredScreenRect(viewX, viewY, scale, 15, 15);
     }
-    ObjectKind GetKind() const override { return ObjectKind::Check; }
+    ObjectKind GetKind() const override { return kKind; }
 
     std::int32_t phaseId = 0;
     // A CheckType; a new check is free.

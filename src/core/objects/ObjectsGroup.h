@@ -12,13 +12,15 @@ namespace lw {
 // The selection: objects treated as one, with the rectangle around them. Not
 // in the store and never drawn itself. Its position is the midpoint of its
 // bounds and so, unlike every other object's, in window pixels.
-class ObjectsGroup : public EditorObject {
+class ObjectsGroup final : public EditorObject {
 public:
+    static constexpr ObjectKind kKind = ObjectKind::ObjectsGroup;
+
     ObjectsGroup() : EditorObject(0) {}
 
     ScreenRect GetScreenRect(int, int, float) const override { return bounds; }
     int GetRadius() const override { return 0; }
-    ObjectKind GetKind() const override { return ObjectKind::ObjectsGroup; }
+    ObjectKind GetKind() const override { return kKind; }
 
     // Recomputes the bounds and the position from the members as the view
     // shows them now; does nothing until the view is known.

@@ -28,8 +28,10 @@ bool HasGate(const std::vector<GateSlot>& gates, const std::string& name);
 // The central object of a template: a set of blocks with their gates, how the
 // generator places it, and, by id, its checks and actions. A box of 200 by
 // 150 world units with its position at the top-left corner.
-class Phase : public EditorObject {
+class Phase final : public EditorObject {
 public:
+    static constexpr ObjectKind kKind = ObjectKind::Phase;
+
     static constexpr int kWidth = 200;
     static constexpr int kHeight = 150;
     // Every line that leads to a phase ends at this point of it, which is
@@ -40,7 +42,7 @@ public:
     explicit Phase(std::int32_t id) : EditorObject(id) {}
 
     ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override;
-    ObjectKind GetKind() const override { return ObjectKind::Phase; }
+    ObjectKind GetKind() const override { return kKind; }
     int GetColorIndex() const override { return colorIndex; }
 
     // Clears the open mark of the first gate of that name, if any.

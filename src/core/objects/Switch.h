@@ -11,15 +11,17 @@ namespace lw {
 
 // Chooses a number of its cases; a circle of radius 50. The generator alone
 // gives `number`, `preliminaryCheck` and `planeType` their meaning.
-class Switch : public EditorObject {
+class Switch final : public EditorObject {
 public:
+    static constexpr ObjectKind kKind = ObjectKind::Switch;
+
     explicit Switch(std::int32_t id) : EditorObject(id) {}
 
     ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override {
         return CentredScreenRect(viewX, viewY, scale, GetRadius(), GetRadius());
     }
     int GetRadius() const override { return 50; }
-    ObjectKind GetKind() const override { return ObjectKind::Switch; }
+    ObjectKind GetKind() const override { return kKind; }
 
     std::string name;
     std::int32_t number = 0;

@@ -10,14 +10,16 @@
 namespace lw {
 
 // The gates of one phase that are unlinked for non-players, by name.
-class Unlinker : public EditorObject {
+class Unlinker final : public EditorObject {
 public:
+    static constexpr ObjectKind kKind = ObjectKind::Unlinker;
+
     explicit Unlinker(std::int32_t id) : EditorObject(id) {}
 
     ScreenRect GetScreenRect(int viewX, int viewY, float scale) const override {
         return CentredScreenRect(viewX, viewY, scale, 20, 20);
     }
-    ObjectKind GetKind() const override { return ObjectKind::Unlinker; }
+    ObjectKind GetKind() const override { return kKind; }
 
     bool HasInputGate(const std::string& gateName) const;
     bool HasOutputGate(const std::string& gateName) const;

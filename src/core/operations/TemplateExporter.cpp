@@ -162,6 +162,9 @@ void TemplateExporter::ExportUnlinker(const Unlinker& unlinker) {
 }
 
 void ExportToDesc(const ObjectStore& store, TemplateDesc& desc) {
+    // Nearly every object writes a gui helper: the list is sized once rather
+    // than grown by copying, which for a large template costs more than it.
+    desc.guiHelpers.reserve(desc.guiHelpers.size() + store.objects.size());
     TemplateExporter exporter(store, desc);
     store.ForEach<Phase>([&](const Phase& phase) { exporter.ExportPhase(phase); });
     store.ForEach<Case>([&](const Case& object) { exporter.ExportCase(object); });
