@@ -11,17 +11,6 @@ std::string_view StrippedView(const std::string& name) {
     return std::string_view(name).substr(name.size() < 8 ? 0 : 7);
 }
 
-template <typename Index, typename KeyOf>
-void IndexRecords(const std::vector<GuiHelperDesc>& helpers, Index& index, KeyOf keyOf) {
-    for (std::size_t i = 0; i < helpers.size(); ++i)
-        index[keyOf(helpers[i])].records.push_back(i);
-}
-
-template <typename Index, typename Key> auto* QueueOf(Index& index, const Key& key) {
-    const auto found = index.find(key);
-    return found == index.end() ? nullptr : &found->second;
-}
-
 } // namespace
 
 GuiHelperPool::~GuiHelperPool() {
@@ -35,53 +24,60 @@ void GuiHelperPool::EnsureTaken() {
         taken_.assign(helpers_.size(), false);
 }
 
-const GuiHelperDesc* GuiHelperPool::Front(Queue& queue) {
-    while (queue.next < queue.records.size() && taken_[queue.records[queue.next]])
-        ++queue.next;
-    return queue.next < queue.records.size() ? &helpers_[queue.records[queue.next]] : nullptr;
+template <typename Key, typename Hash, typename KeyOf>
+void GuiHelperPool::Build(Chains<Key, Hash>& chains, KeyOf keyOf) {
+    EnsureTaken();
+    if (chains.built)
+        return;
+    chains.built = true;
+    chains.first.reserve(helpers_.size());
+    chains.next.assign(helpers_.size(), kNone);
+    // From the last record back, so that each key ends up at its first one.
+    for (std::size_t i = helpers_.size(); i-- > 0;) {
+        const auto [slot, added] = chains.first.try_emplace(keyOf(helpers_[i]), i);
+        if (!added) {
+            chains.next[i] = slot->second;
+            slot->second = i;
+        }
+    }
 }
 
-const GuiHelperDesc* GuiHelperPool::Take(Queue* queue) {
-    if (queue == nullptr)
+template <typename Key, typename Hash>
+std::size_t GuiHelperPool::Front(Chains<Key, Hash>& chains, const Key& key) {
+    const auto found = chains.first.find(key);
+    if (found == chains.first.end())
+        return kNone;
+    std::size_t& record = found->second;
+    while (record != kNone && taken_[record])
+        record = chains.next[record];
+    return record;
+}
+
+const GuiHelperDesc* GuiHelperPool::Take(std::size_t record) {
+    if (record == kNone)
         return nullptr;
-    const GuiHelperDesc* front = Front(*queue);
-    if (front != nullptr)
-        taken_[queue->records[queue->next++]] = true;
-    return front;
+    taken_[record] = true;
+    return &helpers_[record];
 }
 
 const GuiHelperDesc* GuiHelperPool::TakeByName(const std::string& objectName) {
-    EnsureTaken();
-    if (!indexedByName_) {
-        IndexRecords(helpers_, byName_,
-                     [](const GuiHelperDesc& h) { return std::string_view(h.objectName); });
-        indexedByName_ = true;
-    }
-    return Take(QueueOf(byName_, std::string_view(objectName)));
+    Build(byName_, [](const GuiHelperDesc& h) { return std::string_view(h.objectName); });
+    return Take(Front(byName_, std::string_view(objectName)));
 }
 
 const GuiHelperDesc* GuiHelperPool::TakeByOwner(const std::string& objectName,
                                                 const std::string& ownerName,
                                                 const std::string& detail) {
-    EnsureTaken();
-    if (!indexedByOwner_) {
-        IndexRecords(helpers_, byOwner_, [](const GuiHelperDesc& h) {
-            return NameTriple{h.objectName, h.ownerName, h.detail};
-        });
-        indexedByOwner_ = true;
-    }
-    return Take(QueueOf(byOwner_, NameTriple{objectName, ownerName, detail}));
+    Build(byOwner_, [](const GuiHelperDesc& h) {
+        return NameTriple{h.objectName, h.ownerName, h.detail};
+    });
+    return Take(Front(byOwner_, NameTriple{objectName, ownerName, detail}));
 }
 
 const GuiHelperDesc* GuiHelperPool::FindByStrippedName(const std::string& strippedName) {
-    EnsureTaken();
-    if (!indexedByStrippedName_) {
-        IndexRecords(helpers_, byStrippedName_,
-                     [](const GuiHelperDesc& h) { return StrippedView(h.objectName); });
-        indexedByStrippedName_ = true;
-    }
-    Queue* queue = QueueOf(byStrippedName_, std::string_view(strippedName));
-    return queue == nullptr ? nullptr : Front(*queue);
+    Build(byStrippedName_, [](const GuiHelperDesc& h) { return StrippedView(h.objectName); });
+    const std::size_t record = Front(byStrippedName_, std::string_view(strippedName));
+    return record == kNone ? nullptr : &helpers_[record];
 }
 
 } // namespace lw

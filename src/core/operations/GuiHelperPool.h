@@ -33,27 +33,33 @@ public:
     const GuiHelperDesc* FindByStrippedName(const std::string& strippedName);
 
 private:
-    // Record indexes in file order, and how far the taken ones at the front reach.
-    struct Queue {
-        std::vector<std::size_t> records;
-        std::size_t next = 0;
+    static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+    // The records of each key in file order, as a chain: `first` gives the
+    // first record of a key not known to be taken, `next` the record of the
+    // same key after each one. Two allocations for the whole index rather
+    // than one for every key.
+    template <typename Key, typename Hash = std::hash<Key>> struct Chains {
+        std::unordered_map<Key, std::size_t, Hash> first;
+        std::vector<std::size_t> next;
+        bool built = false;
     };
 
-    // The first record of the queue not taken yet, or null.
-    const GuiHelperDesc* Front(Queue& queue);
-    const GuiHelperDesc* Take(Queue* queue);
+    template <typename Key, typename Hash, typename KeyOf>
+    void Build(Chains<Key, Hash>& chains, KeyOf keyOf);
+    // The first record of the key not taken yet, or kNone.
+    template <typename Key, typename Hash>
+    std::size_t Front(Chains<Key, Hash>& chains, const Key& key);
+    const GuiHelperDesc* Take(std::size_t record);
     void EnsureTaken();
 
     std::vector<GuiHelperDesc>& helpers_;
     std::vector<bool> taken_;
-    bool indexedByName_ = false;
-    bool indexedByOwner_ = false;
-    bool indexedByStrippedName_ = false;
     // Keyed by views of the records' own texts, which stay put until the
     // pool ends.
-    std::unordered_map<std::string_view, Queue> byName_;
-    std::unordered_map<NameTriple, Queue, NameTripleHash> byOwner_;
-    std::unordered_map<std::string_view, Queue> byStrippedName_;
+    Chains<std::string_view> byName_;
+    Chains<NameTriple, NameTripleHash> byOwner_;
+    Chains<std::string_view> byStrippedName_;
 };
 
 } // namespace lw
