@@ -35,14 +35,8 @@ void BM_PaintImage(benchmark::State& state) {
     }
 }
 
-void Sizes(benchmark::internal::Benchmark* benchmark) {
-    for (int size : kSizes)
-        benchmark->Arg(size);
-    benchmark->Unit(benchmark::kMillisecond);
-}
-
-BENCHMARK(BM_PaintRecording)->Apply(Sizes);
-BENCHMARK(BM_PaintImage)->Apply(Sizes);
+BENCHMARK(BM_PaintRecording)->Apply(AtEverySize);
+BENCHMARK(BM_PaintImage)->Apply(AtEverySize);
 
 } // namespace
 } // namespace lw::bench

@@ -122,21 +122,15 @@ void BM_Save(benchmark::State& state) {
         editor.weaver.SaveTemplateFile();
 }
 
-void Sizes(benchmark::internal::Benchmark* benchmark) {
-    for (int size : kSizes)
-        benchmark->Arg(size);
-    benchmark->Unit(benchmark::kMillisecond);
-}
-
-BENCHMARK(BM_ReadFloor)->Apply(Sizes);
-BENCHMARK(BM_Read)->Apply(Sizes);
-BENCHMARK(BM_Build)->Apply(Sizes);
-BENCHMARK(BM_Export)->Apply(Sizes);
-BENCHMARK(BM_Write)->Apply(Sizes);
-BENCHMARK(BM_WriteFloor)->Apply(Sizes);
-BENCHMARK(BM_WriteFloorUnsynced)->Apply(Sizes);
-BENCHMARK(BM_Open)->Apply(Sizes);
-BENCHMARK(BM_Save)->Apply(Sizes);
+BENCHMARK(BM_ReadFloor)->Apply(AtEverySize);
+BENCHMARK(BM_Read)->Apply(AtEverySize);
+BENCHMARK(BM_Build)->Apply(AtEverySize);
+BENCHMARK(BM_Export)->Apply(AtEverySize);
+BENCHMARK(BM_Write)->Apply(AtEverySize);
+BENCHMARK(BM_WriteFloor)->Apply(AtEverySize);
+BENCHMARK(BM_WriteFloorUnsynced)->Apply(AtEverySize);
+BENCHMARK(BM_Open)->Apply(AtEverySize);
+BENCHMARK(BM_Save)->Apply(AtEverySize);
 
 } // namespace
 } // namespace lw::bench

@@ -121,25 +121,19 @@ void BM_ReloadBlocks(benchmark::State& state) {
         editor.weaver.ReloadBlocks();
 }
 
-void Sizes(benchmark::internal::Benchmark* benchmark) {
-    for (int size : kSizes)
-        benchmark->Arg(size);
-    benchmark->Unit(benchmark::kMillisecond);
-}
-
 void TimedSizes(benchmark::internal::Benchmark* benchmark) {
-    Sizes(benchmark);
+    AtEverySize(benchmark);
     benchmark->UseManualTime();
 }
 
-BENCHMARK(BM_HitTest)->Apply(Sizes);
-BENCHMARK(BM_BandSelect)->Apply(Sizes);
-BENCHMARK(BM_DragStep)->Apply(Sizes);
+BENCHMARK(BM_HitTest)->Apply(AtEverySize);
+BENCHMARK(BM_BandSelect)->Apply(AtEverySize);
+BENCHMARK(BM_DragStep)->Apply(AtEverySize);
 BENCHMARK(BM_DeleteSelection)->Apply(TimedSizes);
 BENCHMARK(BM_UndoDelete)->Apply(TimedSizes);
 BENCHMARK(BM_RedoDelete)->Apply(TimedSizes);
 BENCHMARK(BM_Paste1000)->Apply(TimedSizes);
-BENCHMARK(BM_ReloadBlocks)->Apply(Sizes);
+BENCHMARK(BM_ReloadBlocks)->Apply(AtEverySize);
 
 } // namespace
 } // namespace lw::bench

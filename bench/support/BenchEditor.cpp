@@ -42,6 +42,12 @@ BenchEditor::BenchEditor(int phases) {
         options.DrawActions = options.DrawGeometry = true;
 }
 
+void AtEverySize(benchmark::internal::Benchmark* benchmark) {
+    for (int phases : {1000, 4000, 16000})
+        benchmark->Arg(phases);
+    benchmark->Unit(benchmark::kMillisecond);
+}
+
 void BenchEditor::SelectAllPlaced() {
     weaver.selection.Clear();
     for (const auto& object : weaver.objects) {

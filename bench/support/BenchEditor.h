@@ -6,6 +6,7 @@
 #include "platform/NativeFileSystem.h"
 #include "platform/RecordingPrompts.h"
 
+#include <benchmark/benchmark.h>
 #include <string>
 
 namespace lw::bench {
@@ -33,7 +34,8 @@ public:
     Weaver weaver{prompts, store, disk};
 };
 
-// The sizes every benchmark runs at.
-inline constexpr int kSizes[] = {1000, 4000, 16000};
+// Runs a benchmark at every size, 1,000, 4,000 and 16,000 phases, and
+// reports it in milliseconds.
+void AtEverySize(benchmark::internal::Benchmark* benchmark);
 
 } // namespace lw::bench
