@@ -38,6 +38,10 @@ QPainterSurface::QPainterSurface(QPainter& painter, Unseen unseen)
     painter_.setPen(pen_);
     painter_.setBrush(ToQColor(kWhiteBrush.colour));
     visible_ = DeviceArea(painter_);
+    MeasureFont();
+}
+
+void QPainterSurface::MeasureFont() {
     const QFontMetricsF metrics(painter_.font());
     maxGlyphWidth_ = metrics.maxWidth();
     lineHeight_ = metrics.lineSpacing();
@@ -78,9 +82,7 @@ void QPainterSurface::SelectBrush(const Brush& brush) {
 
 void QPainterSurface::SelectFont(const CanvasFont& font) {
     painter_.setFont(ToQFont(font));
-    const QFontMetricsF metrics(painter_.font());
-    maxGlyphWidth_ = metrics.maxWidth();
-    lineHeight_ = metrics.lineSpacing();
+    MeasureFont();
 }
 
 Rgb QPainterSurface::SetTextColour(Rgb colour) {

@@ -41,6 +41,8 @@ private:
     // by the pen, may touch the device.
     bool MayShow(const QRectF& bounds) const;
     bool MayShowText(const std::string& text, const ScreenRect& rect, unsigned flags) const;
+    // Takes the widest glyph and the line height of the painter's font.
+    void MeasureFont();
 
     QPainter& painter_;
     Unseen unseen_;

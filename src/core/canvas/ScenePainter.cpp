@@ -19,15 +19,9 @@ constexpr int kPhaseTextInset = 5;
 constexpr int kGateLabelHeight = 20;
 constexpr int kGateLabelInset = 2;
 
-// A sum of screen coordinates, held within range: a phase may stand at the
-// very edge of it.
-std::int32_t Plus(std::int64_t a, std::int64_t b) {
-    return TruncateToInt(static_cast<double>(a + b));
-}
-
 ScreenRect Shrunk(ScreenRect rect, int inset) {
-    return ScreenRect{Plus(rect.left, inset), Plus(rect.top, inset), Plus(rect.right, -inset),
-                      Plus(rect.bottom, -inset)};
+    return ScreenRect{ClampedSum(rect.left, inset), ClampedSum(rect.top, inset),
+                      ClampedSum(rect.right, -inset), ClampedSum(rect.bottom, -inset)};
 }
 
 // The generation keyword with the parameters it shows on the phase: the first
@@ -148,10 +142,10 @@ void ScenePainter::PaintGates(const Phase& phase, bool isInput) const {
         dc_.SelectPen(gates[i].openMark ? kThickRedPen : kThinBlackPen);
         dc_.Line({x0, y}, {x1, y});
         const ScreenRect label =
-            Shrunk(ScreenRect{x0, Plus(y, -kGateLabelHeight), x1, y}, kGateLabelInset);
+            Shrunk(ScreenRect{x0, ClampedSum(y, -kGateLabelHeight), x1, y}, kGateLabelInset);
         dc_.DrawText(gates[i].name, label, labelFlags);
-        dc_.Line({Plus(tipX, a), Plus(y, b)}, {tipX, y});
-        dc_.Line({Plus(tipX, a), Plus(y, c)}, {tipX, y});
+        dc_.Line({ClampedSum(tipX, a), ClampedSum(y, b)}, {tipX, y});
+        dc_.Line({ClampedSum(tipX, a), ClampedSum(y, c)}, {tipX, y});
     }
 }
 
@@ -189,8 +183,8 @@ void ScenePainter::PaintGeometryLink(const Phase& fromPhase, const Phase& toPhas
     dc_.SelectPen(isPrimary ? kThinBluePen : kThinRedPen);
     dc_.Line(s, t);
     dc_.SelectPen(isPrimary ? kThickBluePen : kThickRedPen);
-    const ScreenPoint head{Plus(t.x, TruncateToInt((static_cast<double>(s.x) - t.x) * 0.1)),
-                           Plus(t.y, TruncateToInt((static_cast<double>(s.y) - t.y) * 0.1))};
+    const ScreenPoint head{ClampedSum(t.x, TruncateToInt((static_cast<double>(s.x) - t.x) * 0.1)),
+                           ClampedSum(t.y, TruncateToInt((static_cast<double>(s.y) - t.y) * 0.1))};
     dc_.Line(t, head);
 }
 
@@ -263,8 +257,8 @@ void ScenePainter::PaintChecks() const {
     const std::int32_t textShift = TruncateToInt(view_.scale * 32.0f);
     store_.ForEach<Check>([&](const Check& check) {
         const ScreenRect r = PaintRuleBox(check, check.phaseId, corner);
-        const ScreenRect textRect{Plus(r.left, textShift), r.top, Plus(r.right, textShift),
-                                  r.bottom};
+        const ScreenRect textRect{ClampedSum(r.left, textShift), r.top,
+                                  ClampedSum(r.right, textShift), r.bottom};
         dc_.DrawText(checkTypeToKeyword(static_cast<CheckType>(check.type)), textRect,
                      TextVerticalCentre | TextSingleLine | TextNoClip);
     });

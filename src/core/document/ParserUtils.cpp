@@ -18,9 +18,14 @@ std::string trimBlanks(const std::string& text) {
     return text.substr(begin, end - begin);
 }
 
+// A double quote at pos that no later quote closes.
+bool isStrayQuote(const std::string& line, std::size_t pos) {
+    return line[pos] == '"' && line.find('"', pos + 1) == std::string::npos;
+}
+
 // The ")" that closes the "(" at `open`, counting the pairs inside; npos when
 // the line ends first.
-std::size_t MatchingBracket(const std::string& line, std::size_t open) {
+std::size_t matchingBracket(const std::string& line, std::size_t open) {
     int depth = 0;
     for (std::size_t i = open + 1; i < line.size(); ++i) {
         if (line[i] == '(') {
@@ -61,7 +66,7 @@ void ParserUtils::parseLineIntoWords(std::vector<std::string>& words, const std:
         if (pos >= line.size())
             return;
         // A stray quote only separates, and makes no empty word at the end.
-        if (line[pos] == '"' && line.find('"', pos + 1) == std::string::npos) {
+        if (isStrayQuote(line, pos)) {
             ++pos;
             continue;
         }
@@ -76,7 +81,7 @@ void ParserUtils::eatAuxChars(const std::string& line, std::size_t& pos) {
 
 std::string ParserUtils::getNextWord(const std::string& line, std::size_t& pos) {
     if (pos < line.size() && line[pos] == '"') {
-        if (line.find('"', pos + 1) != std::string::npos)
+        if (!isStrayQuote(line, pos))
             return getNextEmbracedWord(line, pos, '"');
         // Taking the rest of the line would make a word of separators, which
         // the writer puts back as they are and the next reading splits. A
@@ -116,7 +121,7 @@ void ParserUtils::getParamsInBrackets(std::vector<std::string>& params, const st
     // splits only at the outer level. Where an inner bracket is never closed,
     // the pair ends at the first ")" instead: the entries then hold no ")",
     // and written back in a pair they read back the same.
-    std::size_t close = MatchingBracket(line, open);
+    std::size_t close = matchingBracket(line, open);
     if (close == std::string::npos)
         close = line.find(')', open + 1);
     const std::size_t end = close == std::string::npos ? line.size() : close;

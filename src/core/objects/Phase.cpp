@@ -22,10 +22,8 @@ ScreenRect Phase::GetScreenRect(int viewX, int viewY, float scale) const {
     ScreenRect rect;
     rect.left = TruncateToInt(static_cast<float>(std::int64_t{posX} + viewX) * scale);
     rect.top = TruncateToInt(static_cast<float>(std::int64_t{posY} + viewY) * scale);
-    // Summed in double, so that a corner at the edge of the range stays
-    // within it instead of overflowing.
-    rect.right = TruncateToInt(static_cast<double>(rect.left) - TruncateToInt(scale * -200.0));
-    rect.bottom = TruncateToInt(static_cast<double>(rect.top) - TruncateToInt(scale * -150.0));
+    rect.right = ClampedSum(rect.left, -TruncateToInt(scale * -200.0));
+    rect.bottom = ClampedSum(rect.top, -TruncateToInt(scale * -150.0));
     return rect;
 }
 

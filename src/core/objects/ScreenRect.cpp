@@ -17,6 +17,12 @@ ScreenRect UnionRect(const ScreenRect& a, const ScreenRect& b) {
                       std::max(a.bottom, b.bottom)};
 }
 
+std::int32_t ClampedSum(std::int64_t position, std::int64_t offset) {
+    return static_cast<std::int32_t>(
+        std::clamp<std::int64_t>(position + offset, std::numeric_limits<std::int32_t>::min(),
+                                 std::numeric_limits<std::int32_t>::max()));
+}
+
 std::int32_t TruncateToInt(double value) {
     if (std::isnan(value))
         return 0;

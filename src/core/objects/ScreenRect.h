@@ -32,4 +32,8 @@ ScreenRect UnionRect(const ScreenRect& a, const ScreenRect& b);
 // that a far-off position cannot overflow.
 std::int32_t TruncateToInt(double value);
 
+// A position plus an offset, held to the 32-bit range: a file may place an
+// object at its very edge, and nothing built from it may wrap round.
+std::int32_t ClampedSum(std::int64_t position, std::int64_t offset);
+
 } // namespace lw

@@ -16,13 +16,6 @@ bool HasProperty(const Phase& phase, const Action& action) {
                found->second.end();
 }
 
-// A phase far out at the edge of the coordinate range keeps its new actions
-// at that edge instead of wrapping round to the other side.
-std::int32_t Offset(std::int32_t position, std::int64_t offset) {
-    return static_cast<std::int32_t>(
-        std::clamp<std::int64_t>(position + offset, INT32_MIN, INT32_MAX));
-}
-
 } // namespace
 
 BlockReloader::BlockReloader(ObjectStore& store, BlocksContainer& blockPool,
@@ -152,8 +145,8 @@ void BlockReloader::AddAction(Phase& phase, const std::string& objectName,
     action->phaseId = phase.id;
     action->objectName = objectName;
     action->name = property;
-    action->posX = Offset(phase.posX, 400);
-    action->posY = Offset(phase.posY, std::int64_t{40} * index - 150);
+    action->posX = ClampedSum(phase.posX, 400);
+    action->posY = ClampedSum(phase.posY, std::int64_t{40} * index - 150);
     phase.AddActionId(action->id);
     log_.push_back("ADDED: Action " + property + ":" + objectName + " to PHASE: " + phase.name);
 }

@@ -28,11 +28,6 @@ struct AnchorBox {
     }
 };
 
-// A file may place objects anywhere; a move must not wrap around.
-std::int32_t ClampToInt(std::int64_t value) {
-    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, INT32_MIN, INT32_MAX));
-}
-
 // How many phases, cases and switches of the store bear each name, kept up
 // to date while imported objects are renamed. An object is in the store
 // under its own name, so its name is taken when more than one bears it: the
@@ -100,8 +95,8 @@ void UR_ImportTemplateDesc::Run(bool selectResult) {
     const std::int64_t dy =
         std::int64_t{targetY} - (std::int64_t{box.maxY} - box.minY) / 2 - box.minY;
     for (EditorObject* object : made) {
-        object->posX = ClampToInt(object->posX + dx);
-        object->posY = ClampToInt(object->posY + dy);
+        object->posX = ClampedSum(object->posX, dx);
+        object->posY = ClampedSum(object->posY, dy);
         if (selectResult)
             editor->selection.Add(object);
     }
