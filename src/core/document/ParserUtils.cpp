@@ -61,16 +61,19 @@ bool ParserUtils::isAuxChar(char c) {
 
 void ParserUtils::parseLineIntoWords(std::vector<std::string>& words, const std::string& line) {
     std::size_t pos = 0;
+    while (skipToWord(line, pos))
+        words.push_back(getNextWord(line, pos));
+}
+
+bool ParserUtils::skipToWord(const std::string& line, std::size_t& pos) {
     while (true) {
         eatAuxChars(line, pos);
         if (pos >= line.size())
-            return;
+            return false;
         // A stray quote only separates, and makes no empty word at the end.
-        if (isStrayQuote(line, pos)) {
-            ++pos;
-            continue;
-        }
-        words.push_back(getNextWord(line, pos));
+        if (!isStrayQuote(line, pos))
+            return true;
+        ++pos;
     }
 }
 

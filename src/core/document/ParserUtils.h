@@ -19,6 +19,12 @@ public:
     // Moves pos over separators to the next character that can begin a word.
     static void eatAuxChars(const std::string& line, std::size_t& pos);
 
+    // Moves pos to where the next word of parseLineIntoWords begins, past
+    // separators and quotes that no later quote closes; false when the line
+    // holds no further word. Whoever asks how many words a line has asks
+    // this, so that the count never differs from the words themselves.
+    static bool skipToWord(const std::string& line, std::size_t& pos);
+
     // The word that begins at pos; pos moves behind it. A word that begins with
     // a double quote is read as an embraced word; a quote that is never closed
     // is passed over with the separators behind it, and the plain word after

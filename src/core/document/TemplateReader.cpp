@@ -96,7 +96,8 @@ void ReadPhase(TemplateDesc& desc, const TemplateLine& line) {
     desc.phases.push_back(std::move(phase));
 }
 
-// Needs no more than the two words every line handed to a tag has.
+// Needs no more than the two words that TagOf has counted on every line it
+// hands to a tag, by the same rules as the words themselves.
 void ReadCase(TemplateDesc& desc, const TemplateLine& line) {
     CaseDesc caseDesc;
     caseDesc.name = line.words[1];
@@ -305,16 +306,14 @@ const Tag kTags[] = {
     {"gui_helper", ReadGuiHelper, false},
 };
 
-// The rule of the line's first word, split as all its words would be split,
-// when a second word follows; a line of fewer words is dropped.
+// The rule of the line's first word when a second word follows, counted as
+// parseLineIntoWords counts them; a line of fewer words is dropped.
 const Tag* TagOf(const std::string& text) {
     std::size_t pos = 0;
-    ParserUtils::eatAuxChars(text, pos);
-    if (AtEnd(text, pos))
+    if (!ParserUtils::skipToWord(text, pos))
         return nullptr;
     const std::string keyword = ParserUtils::getNextWord(text, pos);
-    ParserUtils::eatAuxChars(text, pos);
-    if (AtEnd(text, pos))
+    if (!ParserUtils::skipToWord(text, pos))
         return nullptr;
     for (const Tag& tag : kTags) {
         if (keyword == tag.keyword)

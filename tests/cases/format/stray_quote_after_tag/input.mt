@@ -1,0 +1,5 @@
+case; "
+check "
+olink; "
+phase; p; "
+case; "
