@@ -1,6 +1,7 @@
 #include "ToolRun.h"
 #include "support/TestFiles.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -16,6 +17,40 @@ TEST(ToolInfoTest, AnEmptyDataFolderStartsWithDefaults) {
     EXPECT_EQ(run.status, 0);
     EXPECT_NE(run.output.find("models: models.cfg (0 types, 0 models)"), std::string::npos)
         << run.output;
+}
+
+// Every spelling of one data folder gives the same pool. A relative folder
+// was once put in front of the scanned paths a second time, so the pool came
+// up empty and a reload stripped every link and action from a template.
+TEST(ToolInfoTest, EverySpellingOfTheDataFolderGivesTheSamePool) {
+    const std::filesystem::path data = LOOMWRIGHT_SAMPLE_DATA_DIR;
+    const std::string checkout = data.parent_path().string();
+    const auto pool = [&](const std::string& folder) {
+        const ToolRun run = RunTool("info --data " + Quoted(folder), checkout);
+        EXPECT_EQ(run.status, 0) << run.output;
+        return run.output.substr(run.output.find("\ntvd:"));
+    };
+    const std::string absolute = pool(data.string());
+    EXPECT_EQ(absolute.find("(0 blocks)"), std::string::npos) << absolute;
+    EXPECT_EQ(pool("data"), absolute);
+    EXPECT_EQ(pool("data/"), absolute);
+    EXPECT_EQ(pool("../" + data.parent_path().filename().string() + "/data"), absolute);
+}
+
+// A command's own help, as command-line programs give it: on standard
+// output, with status 0, and nothing said about an unknown option.
+TEST(ToolInfoTest, HelpAndVersionFollowTheCommandLinesConventions) {
+    for (const std::string asked : {"replay --help", "replay -h", "help replay"}) {
+        const ToolRun run = RunTool(asked + " 2>/dev/null");
+        EXPECT_EQ(run.status, 0) << asked;
+        EXPECT_EQ(run.output.find("unknown"), std::string::npos) << asked;
+        EXPECT_NE(run.output.find("replay [--data DIR] IN SCRIPT OUT"), std::string::npos);
+        EXPECT_EQ(run.output.find("normalize"), std::string::npos) << run.output;
+    }
+    const ToolRun version = RunTool("--version");
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.output, "loomwright-tool " LOOMWRIGHT_VERSION "\n");
+    EXPECT_EQ(RunTool("help frobnicate").status, 2);
 }
 
 TEST(ToolInfoTest, UsageErrorsExitWithTwo) {

@@ -60,7 +60,7 @@ void BlocksContainer::Load(const std::vector<std::string>& folders) {
 void BlocksContainer::LoadFolder(const std::string& folder) {
     for (const FoundFile& file : FindFiles(folder, "*.Group")) {
         BlockInfo info;
-        if (ReadBlockFrom(info, file.path, file.reference, false)) {
+        if (ReadBlockFrom(info, files_.OpenNativeForReading(file.path), file.reference, false)) {
             info.folder = folder;
             blocks[file.reference] = info;
         }
@@ -68,12 +68,11 @@ void BlocksContainer::LoadFolder(const std::string& folder) {
 }
 
 bool BlocksContainer::ReadBlockFile(BlockInfo& info, const std::string& path, bool silent) {
-    return ReadBlockFrom(info, path, path, silent);
+    return ReadBlockFrom(info, files_.OpenForReading(path), path, silent);
 }
 
-bool BlocksContainer::ReadBlockFrom(BlockInfo& info, const std::string& path,
+bool BlocksContainer::ReadBlockFrom(BlockInfo& info, std::unique_ptr<std::istream> stream,
                                     const std::string& shownPath, bool silent) {
-    const auto stream = files_.OpenForReading(path);
     if (!stream) {
         if (!silent)
             prompts_.ShowMessage("Error reading \"" + shownPath + "\" file!", MessageIcon::Stop);
@@ -128,9 +127,9 @@ void BlocksContainer::FindFilesIn(std::vector<FoundFile>& found, const std::stri
                                   std::set<std::string>& visited) const {
     // A folder reached again through a link would otherwise be walked
     // without end.
-    if (!visited.insert(files_.CanonicalPath(nativeFolder)).second)
+    if (!visited.insert(files_.NativeCanonicalPath(nativeFolder)).second)
         return;
-    const std::vector<DirectoryEntry> entries = files_.ListDirectory(nativeFolder);
+    const std::vector<DirectoryEntry> entries = files_.ListNativeDirectory(nativeFolder);
     for (const DirectoryEntry& entry : entries) {
         if (!entry.isDirectory && MatchesPattern(pattern, entry.name))
             found.push_back(

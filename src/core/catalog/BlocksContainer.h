@@ -4,7 +4,9 @@
 #include "platform/FileAccess.h"
 #include "platform/UserPrompts.h"
 
+#include <istream>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -58,8 +60,8 @@ private:
     void FindFilesIn(std::vector<FoundFile>& found, const std::string& folder,
                      const std::string& nativeFolder, const std::string& pattern,
                      std::set<std::string>& visited) const;
-    bool ReadBlockFrom(BlockInfo& info, const std::string& path, const std::string& shownPath,
-                       bool silent);
+    bool ReadBlockFrom(BlockInfo& info, std::unique_ptr<std::istream> stream,
+                       const std::string& shownPath, bool silent);
 
     const FileAccess& files_;
     UserPrompts& prompts_;

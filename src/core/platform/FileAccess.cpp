@@ -105,11 +105,20 @@ bool FileAccess::ReplaceFile(const std::string& path, const std::string& bytes) 
 }
 
 std::vector<DirectoryEntry> FileAccess::ListDirectory(const std::string& path) const {
-    return SortedEntries(system_, Resolve(path));
+    return ListNativeDirectory(Resolve(path));
 }
 
-std::string FileAccess::CanonicalPath(const std::string& path) const {
-    return system_.CanonicalPath(Resolve(path));
+std::unique_ptr<std::istream>
+FileAccess::OpenNativeForReading(const std::string& nativePath) const {
+    return system_.OpenForReading(nativePath);
+}
+
+std::vector<DirectoryEntry> FileAccess::ListNativeDirectory(const std::string& nativePath) const {
+    return SortedEntries(system_, nativePath);
+}
+
+std::string FileAccess::NativeCanonicalPath(const std::string& nativePath) const {
+    return system_.CanonicalPath(nativePath);
 }
 
 } // namespace lw

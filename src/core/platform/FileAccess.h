@@ -33,10 +33,16 @@ public:
     std::unique_ptr<std::istream> OpenForReading(const std::string& path) const;
     // The entries of a folder sorted by name, so that every platform lists alike.
     std::vector<DirectoryEntry> ListDirectory(const std::string& path) const;
-    std::string CanonicalPath(const std::string& path) const;
     bool IsReadOnly(const std::string& path) const;
     // Writes the file whole or not at all; see FileSystem::ReplaceFile.
     bool ReplaceFile(const std::string& path, const std::string& bytes) const;
+
+    // The same for native paths, as Resolve gives them: a path is mapped
+    // exactly once, since mapping a mapped relative path again would put the
+    // base folder in front of it a second time.
+    std::unique_ptr<std::istream> OpenNativeForReading(const std::string& nativePath) const;
+    std::vector<DirectoryEntry> ListNativeDirectory(const std::string& nativePath) const;
+    std::string NativeCanonicalPath(const std::string& nativePath) const;
 
     FileSystem& System() const { return system_; }
 
