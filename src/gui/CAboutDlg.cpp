@@ -1,5 +1,7 @@
 #include "CAboutDlg.h"
 
+#include "app/AppInfo.h"
+
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -12,7 +14,10 @@ CAboutDlg::CAboutDlg(QWidget* parent) : QDialog(parent) {
     auto* icon = new QLabel(this);
     icon->setObjectName("icon");
     icon->setPixmap(QApplication::windowIcon().pixmap(32, 32));
-    auto* version = new QLabel(tr("Loomwright Version 1.0"), this);
+    auto* version = new QLabel(
+        QStringLiteral("%1 Version %2")
+            .arg(QLatin1String(lw::kApplicationName), QLatin1String(lw::kApplicationVersion)),
+        this);
     version->setObjectName("version");
 
     auto* buttons = new QDialogButtonBox(this);

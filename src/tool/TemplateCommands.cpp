@@ -4,9 +4,45 @@
 #include "operations/BlockReloader.h"
 #include "platform/NativeFileSystem.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <iostream>
+#include <system_error>
 
 namespace {
+
+bool IsTemplateFile(const std::filesystem::path& path) {
+    const std::string extension = path.extension().u8string();
+    return extension.size() == 3 && extension[0] == '.' &&
+           (extension[1] == 'm' || extension[1] == 'M') &&
+           (extension[2] == 't' || extension[2] == 'T');
+}
+
+// The templates that the arguments name: a folder stands for every .mt file
+// under it, at any depth, in the sorted order of their paths, each named as
+// the folder and its path below it, as if it had been named itself.
+std::vector<std::string> TemplatesNamedBy(const std::vector<std::string>& arguments) {
+    namespace fs = std::filesystem;
+    std::vector<std::string> templates;
+    for (const std::string& argument : arguments) {
+        std::error_code error;
+        const fs::path folder = fs::u8path(argument);
+        if (!fs::is_directory(folder, error)) {
+            templates.push_back(argument);
+            continue;
+        }
+        std::vector<std::string> found;
+        for (fs::recursive_directory_iterator it(folder, error), end; !error && it != end;
+             it.increment(error)) {
+            std::error_code kindError;
+            if (it->is_regular_file(kindError) && IsTemplateFile(it->path()))
+                found.push_back(it->path().u8string());
+        }
+        std::sort(found.begin(), found.end());
+        templates.insert(templates.end(), found.begin(), found.end());
+    }
+    return templates;
+}
 
 // Loads IN as the editor opens it, once `prepare` has set the editor up,
 // lets `change` work on the document, and writes OUT as the editor saves it.
@@ -45,7 +81,7 @@ int RunCheckCommand(const ToolArguments& arguments, std::ostream& out) {
     std::vector<std::string> messages = session.TakeMessages();
     PrintLines(out, messages);
     anyMessage = !messages.empty();
-    for (const std::string& path : arguments.positional) {
+    for (const std::string& path : TemplatesNamedBy(arguments.positional)) {
         if (!session.weaver.LoadTemplateFile(CommandLinePath(path)))
             anyUnreadable = true;
         messages = session.TakeMessages();

@@ -1,122 +1,69 @@
-#include "GenerateCommand.h"
-#include "InfoCommand.h"
-#include "RenderCommand.h"
-#include "ReplayCommand.h"
-#include "TemplateCommands.h"
 #include "ToolArguments.h"
+#include "ToolCommands.h"
 #include "app/DataFolder.h"
 #include "platform/NativeFileSystem.h"
 
+#include <algorithm>
 #include <iostream>
-#include <set>
 #include <string>
 #include <vector>
 
 namespace {
 
-const char* const kUsage =
-    "usage: loomwright-tool COMMAND [--data DIR] [ARGS]\n"
-    "\n"
-    "Works on mission templates without the editor's window.\n"
-    "\n"
-    "commands:\n"
-    "  check [--data DIR] TEMPLATE...\n"
-    "           load each template as the editor opens it and print every message\n"
-    "           the editor would show, one line each: the template's path, \": \",\n"
-    "           then the message's exact text\n"
-    "  normalize [--data DIR] IN OUT\n"
-    "           load IN as the editor opens it and write OUT as the editor saves\n"
-    "           it; the messages are printed without a prefix\n"
-    "  reload [--data DIR] [--before OLD] IN OUT\n"
-    "           load IN, reload the blocks as the editor does after its block\n"
-    "           files changed, and write OUT; the messages are printed, then the\n"
-    "           reload's log, instead of writing it into the data folder; with\n"
-    "           --before, IN is read against the blocks of the data folder OLD,\n"
-    "           the ones it was made with, so that the log tells every change\n"
-    "  render [--data DIR] [--layers LIST] [--scale S] IN OUT.png\n"
-    "           load IN as the editor opens it, print the messages, and draw the\n"
-    "           whole template as the canvas shows it into the PNG picture OUT;\n"
-    "           LIST is a comma-separated choice of io, cases, checks, actions,\n"
-    "           geometry and all (the default), S the zoom from 0.01 to 2\n"
-    "           (default 1); needs no display\n"
-    "  replay [--data DIR] IN SCRIPT OUT\n"
-    "           load IN, play the canvas events and commands of SCRIPT as the\n"
-    "           editor's window receives them (a window of 1024 by 768 at the\n"
-    "           screen's origin, not zoomed), write OUT as the editor saves it,\n"
-    "           and print after each line of SCRIPT the messages (questions after\n"
-    "           \"? \"), the property dialogs, the context menu and the state;\n"
-    "           SCRIPT has one event a line, \"#\" starts a comment:\n"
-    "             press|release|click X Y [shift] [ctrl]   move X Y [right]\n"
-    "             dblclick X Y   rpress X Y   rrelease X Y   wheel X Y DELTA\n"
-    "             key Delete|Escape   command ID_NAME   dump\n"
-    "             answer yes|no|cancel   file PATH   dialog ok|cancel\n"
-    "           the last three prepare the next question, file dialog (PATH in\n"
-    "           the data folder) or property dialog, which are otherwise\n"
-    "           cancelled; a line not understood stops it before it starts\n"
-    "  generate PHASES FOLDER\n"
-    "           write a synthetic template of PHASES phases (checks, actions,\n"
-    "           cases, switches, links and unlinkers with it) and the data\n"
-    "           folder it loads in into FOLDER, and print the template's path;\n"
-    "           for trying the editor and the tool on large templates\n"
-    "  info [--data DIR]\n"
-    "           show what the editor reads from the data folder at start:\n"
-    "           the configuration, the model and rule catalogues, the block folders\n"
-    "\n"
-    "options:\n"
-    "  --data DIR  the data folder; by default the one the editor uses,\n"
-    "              two levels above this program, then \"data\"\n"
-    "\n"
-    "TEMPLATE, IN, OUT and SCRIPT are ordinary paths, relative to the working\n"
-    "folder; the block files a template names are found in the data folder.\n"
-    "\n"
-    "exit status: 0 when no message was shown, 1 when at least one was (for\n"
-    "replay, a question too), 2 for a usage error or a template that cannot be\n"
-    "read (\"Can't open template file!\") or written\n"
-    "(\"Can't save template file!\"), a picture that cannot be made or written,\n"
-    "or a replay script that cannot be read or has a line not understood.\n";
+bool IsHelpWord(const std::string& word) {
+    return word == "--help" || word == "-h";
+}
+
+int UsageError(const std::string& error, const std::string& usage) {
+    std::cerr << "loomwright-tool: " << error << "\n" << usage;
+    return 2;
+}
+
+// `help`, `help COMMAND`, `--help` and `-h` print on standard output and
+// succeed; asked of a command that does not exist, help is a usage error.
+int PrintHelp(const std::vector<std::string>& topics) {
+    if (topics.empty()) {
+        std::cout << FullUsage();
+        return 0;
+    }
+    const ToolCommand* command = FindToolCommand(topics[0]);
+    if (command == nullptr || topics.size() > 1)
+        return UsageError("no help for " + topics[0], FullUsage());
+    std::cout << "usage:\n" << command->usage;
+    return 0;
+}
 
 } // namespace
 
 int main(int argc, char** argv) {
     const std::vector<std::string> words(argv + 1, argv + argc);
-    if (words.empty()) {
-        std::cerr << kUsage;
-        return 2;
-    }
-    if (words[0] == "--help" || words[0] == "-h" || words[0] == "help") {
-        std::cout << kUsage;
+    if (words.empty())
+        return UsageError("a command is needed", FullUsage());
+    if (words[0] == "--version") {
+        std::cout << VersionLine() << "\n";
         return 0;
     }
+    if (words[0] == "help" || IsHelpWord(words[0]))
+        return PrintHelp({words.begin() + 1, words.end()});
+
+    const ToolCommand* command = FindToolCommand(words[0]);
+    if (command == nullptr)
+        return UsageError("unknown command " + words[0], FullUsage());
+    const std::vector<std::string> rest(words.begin() + 1, words.end());
+    const std::string usage = std::string("usage:\n") + command->usage;
+    if (std::any_of(rest.begin(), rest.end(), IsHelpWord)) {
+        std::cout << usage;
+        return 0;
+    }
+
     const std::string defaultData =
         lw::DataFolderForExecutable(lw::CurrentExecutablePath(argc > 0 ? argv[0] : nullptr));
-    const bool render = words[0] == "render";
-    std::set<std::string> valuedOptions;
-    if (render)
-        valuedOptions = {kLayersOption, kScaleOption};
-    else if (words[0] == "reload")
-        valuedOptions = {kBeforeOption};
-    const ToolArguments arguments =
-        ToolArguments::Parse({words.begin() + 1, words.end()}, defaultData, valuedOptions);
-    if (!arguments.error.empty()) {
-        std::cerr << "loomwright-tool: " << arguments.error << "\n" << kUsage;
-        return 2;
-    }
+    const ToolArguments arguments = ToolArguments::Parse(rest, defaultData, command->valuedOptions);
+    if (!arguments.error.empty())
+        return UsageError(arguments.error, usage);
     const std::size_t count = arguments.positional.size();
-    if (words[0] == "info" && count == 0)
-        return RunInfoCommand(arguments, std::cout);
-    if (words[0] == "check" && count > 0)
-        return RunCheckCommand(arguments, std::cout);
-    if (words[0] == "normalize" && count == 2)
-        return RunNormalizeCommand(arguments, std::cout);
-    if (render && count == 2)
-        return RunRenderCommand(arguments, kUsage);
-    if (words[0] == "reload" && count == 2)
-        return RunReloadCommand(arguments, std::cout);
-    if (words[0] == "generate" && count == 2)
-        return RunGenerateCommand(arguments, std::cout);
-    if (words[0] == "replay" && count == 3)
-        return RunReplayCommand(arguments, std::cout);
-
-    std::cerr << "loomwright-tool: unknown command or arguments: " << words[0] << "\n" << kUsage;
-    return 2;
+    if (count < command->minArguments || count > command->maxArguments)
+        return UsageError(
+            count < command->minArguments ? "too few arguments" : "too many arguments", usage);
+    return command->run(arguments, usage.c_str());
 }

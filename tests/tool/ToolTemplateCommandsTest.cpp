@@ -71,13 +71,27 @@ TEST_F(ToolTemplateCommandsTest, CheckPrefixesEachMessageWithItsTemplate) {
     EXPECT_EQ(run.output, "bad.mt: Can't find From phase for link\nbad.mt: Error adding link!\n");
 }
 
+// A folder stands for every template under it, in sorted order, each named
+// as if given by itself. The nine bytes of c.mt once crashed the reader.
+TEST_F(ToolTemplateCommandsTest, CheckTakesEveryTemplateUnderAFolder) {
+    fs::create_directories(Path("a/deep"));
+    Write("a/deep/z.MT", kBadLink);
+    Write("a/notes.txt", kBadLink);
+    Write("b.mt", kBadLink);
+    Write("c.mt", "case; \"");
+    const ToolRun run = RunTool("check " + kDataOption + Quoted(folder.string()));
+    EXPECT_EQ(run.status, 1) << run.output;
+    std::string expected;
+    for (const std::string& name : {Path("a/deep/z.MT"), Path("b.mt")})
+        expected += name + ": Can't find From phase for link\n" + name + ": Error adding link!\n";
+    EXPECT_EQ(run.output, expected);
+}
+
 TEST_F(ToolTemplateCommandsTest, UnreadableOrUnwritableFilesExitWithTwo) {
     const std::string good = lw::test::SampleDataDir() + "/scg/sample_small.mt";
     ToolRun run = RunTool("check " + kDataOption + Quoted(Path("missing.mt")) + " " + Quoted(good));
     EXPECT_EQ(run.status, 2);
     EXPECT_EQ(run.output, Path("missing.mt") + ": Can't open template file!\n");
-    run = RunTool("check " + kDataOption + Quoted(folder.string()));
-    EXPECT_EQ(run.status, 2);
 
     run = Normalize(Path("missing.mt"), Path("out.mt"));
     EXPECT_EQ(run.status, 2);
