@@ -48,9 +48,10 @@ CChildView::CChildView(QWidget* parent) : QWidget(parent) {
 
 CChildView::~CChildView() = default;
 
-void CChildView::Attach(lw::Weaver& weaver, CommandRunner runCommand) {
+void CChildView::Attach(lw::Weaver& weaver, CommandRunner runCommand, CommandQuery isEnabled) {
     weaver_ = &weaver;
     runCommand_ = std::move(runCommand);
+    isEnabled_ = std::move(isEnabled);
     input_ = std::make_unique<lw::CanvasInput>(weaver);
 }
 
@@ -129,7 +130,9 @@ void CChildView::wheelEvent(QWheelEvent* event) {
 void CChildView::keyPressEvent(QKeyEvent* event) {
     if (input_ && event->key() == Qt::Key_Escape) {
         input_->Key(lw::CanvasKey::Escape);
-    } else if (input_ && event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
+    } else if (input_ && event->key() == Qt::Key_Delete &&
+               (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
+        // The keypad's Delete is the same key to the user.
         input_->Key(lw::CanvasKey::Delete);
     } else {
         QWidget::keyPressEvent(event);
@@ -140,9 +143,10 @@ void CChildView::keyPressEvent(QKeyEvent* event) {
 
 // The menu is built for the selection as it is at the release and belongs to
 // the main window, whose status bar shows its entries' texts; the entry
-// chosen runs as its command.
+// chosen runs as its command, and an entry that would not run is greyed.
 void CChildView::ShowContextMenu(const QPoint& point) {
     QMenu menu(window());
+    menu.setSeparatorsCollapsible(false);
     for (const lw::MenuEntry& entry : weaver_->BuildContextMenu()) {
         if (entry.IsSeparator()) {
             menu.addSeparator();
@@ -151,6 +155,7 @@ void CChildView::ShowContextMenu(const QPoint& point) {
         QAction* action = menu.addAction(ToQString(entry.text));
         const lw::CommandId command = *entry.command;
         action->setStatusTip(ToQString(lw::StatusText(command)));
+        action->setEnabled(isEnabled_(command));
         connect(action, &QAction::triggered, this, [this, command] { runCommand_(command); });
     }
     // A popup keeps status texts to itself: hand them to the window's status bar.

@@ -25,10 +25,12 @@ public:
     ~CChildView() override;
 
     using CommandRunner = std::function<void(lw::CommandId)>;
+    using CommandQuery = std::function<bool(lw::CommandId)>;
 
-    // The document to show and to hand the input to, and what runs the
-    // commands of its context menu; without them the canvas stays as it is.
-    void Attach(lw::Weaver& weaver, CommandRunner runCommand);
+    // The document to show and to hand the input to, what runs the commands
+    // of its context menu and whether each may run now; without them the
+    // canvas stays as it is.
+    void Attach(lw::Weaver& weaver, CommandRunner runCommand, CommandQuery isEnabled);
     void ShowCursor(lw::CanvasCursor cursor);
 
 signals:
@@ -50,5 +52,6 @@ private:
 
     lw::Weaver* weaver_ = nullptr;
     CommandRunner runCommand_;
+    CommandQuery isEnabled_;
     std::unique_ptr<lw::CanvasInput> input_;
 };

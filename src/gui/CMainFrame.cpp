@@ -11,7 +11,9 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QLabel>
+#include <QScreen>
 #include <QStatusBar>
+#include <QStyle>
 #include <QToolBar>
 #include <QUrl>
 
@@ -35,11 +37,13 @@ bool CMainFrame::OnCreate(const std::string& dataFolder) {
     actions_->Build();
     connect(actions_, &CommandActions::aboutToShowMenu, this, &CMainFrame::RefreshCommandStates);
     CreateStatusBar();
-    resize(1024, 768);
+    PlaceOnScreen();
 
     weaver_.SetViewHost(this);
     weaver_.SetView(&view_);
-    view_.Attach(weaver_, [this](lw::CommandId command) { RunCommand(command); });
+    view_.Attach(
+        weaver_, [this](lw::CommandId command) { RunCommand(command); },
+        [this](lw::CommandId command) { return commands_.IsEnabled(command); });
     connect(&view_, &CChildView::inputHandled, this, &CMainFrame::RefreshCommandStates);
 
     const QString program = QCoreApplication::applicationFilePath();
@@ -47,6 +51,19 @@ bool CMainFrame::OnCreate(const std::string& dataFolder) {
                                        : dataFolder);
     RefreshCommandStates();
     return true;
+}
+
+// The window comes back where the user left it. The first time it opens at
+// 1024 by 768, or smaller where the screen's free area is smaller (a small
+// screen, or a large display scale), centred in that area.
+void CMainFrame::PlaceOnScreen() {
+    if (restoreGeometry(optionsStore_.WindowGeometry()))
+        return;
+    const QRect available = screen()->availableGeometry();
+    // The frame the window system adds is not known before the window shows.
+    const QSize room = available.size() - QSize(16, 48);
+    const QSize size = QSize(1024, 768).boundedTo(room);
+    setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, available));
 }
 
 // The message pane shows "Ready" while no entry or button is pointed at; a
@@ -59,6 +76,8 @@ void CMainFrame::CreateStatusBar() {
 }
 
 void CMainFrame::RunCommand(lw::CommandId command) {
+    // The hint of the entry just chosen must not stay while its dialog is up.
+    statusBar()->clearMessage();
     if (lw::EditorCommands::IsWindowCommand(command))
         RunWindowCommand(command);
     else
@@ -124,8 +143,8 @@ void CMainFrame::ShowCursor(lw::CanvasCursor cursor) {
     RefreshCommandStates();
 }
 
-void CMainFrame::OpenTextFile(const std::string& path) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(PathToQString(path)));
+bool CMainFrame::OpenTextFile(const std::string& path) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(PathToQString(path)));
 }
 
 void CMainFrame::closeEvent(QCloseEvent* event) {
@@ -134,6 +153,7 @@ void CMainFrame::closeEvent(QCloseEvent* event) {
         return;
     }
     weaver_.options.Save(optionsStore_);
+    optionsStore_.SetWindowGeometry(saveGeometry());
     optionsStore_.Flush();
     event->accept();
 }

@@ -44,7 +44,7 @@ public:
     void Repaint() override;
     void RepaintArea(const lw::ScreenRect& area) override;
     void ShowCursor(lw::CanvasCursor cursor) override;
-    void OpenTextFile(const std::string& path) override;
+    bool OpenTextFile(const std::string& path) override;
 
 protected:
     // Asks about unsaved changes first; a close that goes on saves the options.
@@ -52,6 +52,7 @@ protected:
 
 private:
     void CreateStatusBar();
+    void PlaceOnScreen();
     bool IsChecked(lw::CommandId command) const;
     // The commands of the window itself: leaving, the About box, the bars.
     void RunWindowCommand(lw::CommandId command);

@@ -41,6 +41,9 @@ QAction* CommandActions::MakeAction(CommandId command, const QString& text) {
 void CommandActions::BuildMenus() {
     for (const lw::MenuDefinition& definition : lw::MainMenu()) {
         QMenu* menu = window_.menuBar()->addMenu(ToQString(definition.title));
+        // Every separator shows where the table puts it, also at the start
+        // or the end of a menu.
+        menu->setSeparatorsCollapsible(false);
         connect(menu, &QMenu::aboutToShow, this, &CommandActions::aboutToShowMenu);
         for (const lw::MenuEntry& entry : definition.entries) {
             if (entry.IsSeparator())

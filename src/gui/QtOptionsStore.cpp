@@ -29,6 +29,14 @@ std::string QtOptionsStore::GetString(const std::string& section, const std::str
     return value.isValid() ? ToStdString(value.toString()) : fallback;
 }
 
+QByteArray QtOptionsStore::WindowGeometry() const {
+    return settings_.value(QStringLiteral("Window/Geometry")).toByteArray();
+}
+
+void QtOptionsStore::SetWindowGeometry(const QByteArray& geometry) {
+    settings_.setValue(QStringLiteral("Window/Geometry"), geometry);
+}
+
 void QtOptionsStore::SetString(const std::string& section, const std::string& key,
                                const std::string& value) {
     settings_.setValue(KeyOf(section, key), ToQString(value));

@@ -17,6 +17,10 @@ public:
     void SetString(const std::string& section, const std::string& key,
                    const std::string& value) override;
 
+    // The main window's place and size, kept beside the options.
+    QByteArray WindowGeometry() const;
+    void SetWindowGeometry(const QByteArray& geometry);
+
     void Flush() { settings_.sync(); }
 
 private:

@@ -25,9 +25,12 @@ QMessageBox::Icon ToQtIcon(lw::MessageIcon icon) {
 
 } // namespace
 
-void QtPrompts::ShowMessage(const std::string& text, lw::MessageIcon icon) {
-    QMessageBox box(ToQtIcon(icon), lw::kApplicationName, ToQString(text), QMessageBox::Ok,
-                    parent_);
+void QtPrompts::ShowMessage(const std::string& text, lw::MessageIcon icon,
+                            lw::MessageButtons buttons) {
+    const QMessageBox::StandardButtons shown = buttons == lw::MessageButtons::OkCancel
+                                                   ? QMessageBox::Ok | QMessageBox::Cancel
+                                                   : QMessageBox::Ok;
+    QMessageBox box(ToQtIcon(icon), lw::kApplicationName, ToQString(text), shown, parent_);
     box.exec();
 }
 

@@ -10,7 +10,9 @@ class QtPrompts : public lw::UserPrompts {
 public:
     void SetParent(QWidget* parent) { parent_ = parent; }
 
-    void ShowMessage(const std::string& text, lw::MessageIcon icon) override;
+    using lw::UserPrompts::ShowMessage;
+    void ShowMessage(const std::string& text, lw::MessageIcon icon,
+                     lw::MessageButtons buttons) override;
     lw::Answer Ask(const std::string& question, lw::MessageIcon icon) override;
 
 private:

@@ -10,8 +10,10 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -156,6 +158,10 @@ private slots:
         Click(view, At("BomberRaid"));
         QTest::keyClick(view, Qt::Key_Delete);
         QVERIFY(weaver.FindPhaseByName("BomberRaid") == nullptr);
+        // The keypad's Delete is the same key to a user.
+        Click(view, At("PlayerStart"));
+        QTest::keyClick(view, Qt::Key_Delete, Qt::KeypadModifier);
+        QVERIFY(weaver.FindPhaseByName("PlayerStart") == nullptr);
 
         const std::pair<CommandId, bool*> layers[] = {
             {CommandId::DrawIo, &weaver.options.DrawInputOutputs},
@@ -377,6 +383,49 @@ private slots:
         QVERIFY(weaver.FindPhaseByName("EscortLeg") == nullptr);
     }
 
+    // At a large display scale a window of fixed size would put its status
+    // bar off the screen; it fits, and opens again where it was left.
+    void theWindowFitsTheScreenAndReopensWhereItWasLeft() {
+        const QRect available = frame->screen()->availableGeometry();
+        QVERIFY(available.contains(frame->frameGeometry()));
+        frame->setGeometry(QRect(available.topLeft() + QPoint(20, 30), QSize(500, 400)));
+        const QRect left = frame->geometry();
+        QVERIFY(frame->close());
+        CMainFrame again;
+        QVERIFY(again.OnCreate(dataCopy.path().toStdString()));
+        QCOMPARE(again.geometry(), left);
+        QSettings(lw::kOrganizationName, lw::kApplicationName).remove("Window");
+    }
+
+    void separatorsShowAndTheContextMenuGreysWhatWouldNotRun() {
+        QMenu* viewMenu = nullptr;
+        for (QAction* title : frame->menuBar()->actions())
+            viewMenu = title->text() == "&View" ? title->menu() : viewMenu;
+        QVERIFY(viewMenu != nullptr);
+        viewMenu->popup(QPoint(0, 0));
+        QVERIFY(viewMenu->actions().first()->isSeparator());
+        QVERIFY(viewMenu->actionGeometry(viewMenu->actions().first()).height() > 0);
+        viewMenu->close();
+
+        // While a paste waits for its click, "Add Phase" would be refused.
+        frame->RunCommand(CommandId::EditPaste);
+        const QStringList texts = ContextMenuAt(QPoint(300, 300));
+        QVERIFY(texts.contains("(greyed) Add Phase"));
+        QTest::keyClick(view, Qt::Key_Escape);
+    }
+
+    // The hint of the chosen entry does not stay beside its dialog.
+    void theStatusBarClearsWhenACommandStarts() {
+        frame->actions().Action(CommandId::EditUndo)->showStatusText(frame.get());
+        QString shownWithTheDialog = "not run";
+        OnNext<QDialog>([&](QDialog& about) {
+            shownWithTheDialog = frame->statusBar()->currentMessage();
+            about.accept();
+        });
+        frame->RunCommand(CommandId::AppAbout);
+        QCOMPARE(shownWithTheDialog, QString());
+    }
+
     void theWindowIsGrabbedToAPicture() {
         for (CommandId layer : {CommandId::DrawIo, CommandId::DrawSwitches, CommandId::DrawChecks,
                                 CommandId::DrawActions, CommandId::DrawGeometry})
@@ -439,7 +488,7 @@ private:
         QStringList texts;
         OnNext<QMenu>([&texts, this](QMenu& menu) {
             for (QAction* action : menu.actions())
-                texts << action->text();
+                texts << (action->isEnabled() ? "" : "(greyed) ") + action->text();
             // The entry pointed at tells about itself in the window's status bar.
             menu.setActiveAction(menu.actions().back());
             texts << "status: " + frame->statusBar()->currentMessage();

@@ -18,7 +18,10 @@ public:
     void RepaintArea(const ScreenRect& area) override { repaintedAreas.push_back(area); }
     void CapturePointer(bool capture) override { captured = capture; }
     void ShowCursor(CanvasCursor shown) override { cursor = shown; }
-    void OpenTextFile(const std::string& path) override { openedFiles.push_back(path); }
+    bool OpenTextFile(const std::string& path) override {
+        openedFiles.push_back(path);
+        return canOpenFiles;
+    }
 
     std::string title;
     std::vector<std::string> titles;
@@ -27,6 +30,7 @@ public:
     bool captured = false;
     CanvasCursor cursor = CanvasCursor::Arrow;
     std::vector<std::string> openedFiles;
+    bool canOpenFiles = true;
 };
 
 } // namespace lw::test

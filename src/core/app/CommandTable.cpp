@@ -81,7 +81,7 @@ const std::vector<MenuDefinition>& MainMenu() {
     static const std::vector<MenuDefinition> menus = {
         {"&File",
          {Entry("New\tCtrl+N", C::FileNew), Entry("Open\tCtrl+O", C::FileOpen),
-          Entry("Save\tCtrl+S", C::FileSave), Entry("Save As\tCtrl+Shit+S", C::FileSaveAs),
+          Entry("Save\tCtrl+S", C::FileSave), Entry("Save As\tCtrl+Shift+S", C::FileSaveAs),
           Entry("E&xit", C::AppExit)}},
         {"&Edit",
          {Entry("&Undo\tCtrl+Z", C::EditUndo), Entry("&Redo\tCtrl+Y", C::EditRedo), Separator(),

@@ -373,6 +373,9 @@ void Weaver::Pan(int dx, int dy) {
 // taken as if it were a window point, so it is off by the canvas's place on
 // the screen. A band in progress jumps to that point too.
 void Weaver::Zoom(int screenX, int screenY, int delta, const ScreenRect& canvasOnScreen) {
+    // A wheel turned sideways, or a touchpad's horizontal stroke, is no step.
+    if (delta == 0)
+        return;
     if (screenX < canvasOnScreen.left || screenX > canvasOnScreen.right ||
         screenY < canvasOnScreen.top || screenY > canvasOnScreen.bottom)
         return;
@@ -383,7 +386,7 @@ void Weaver::Zoom(int screenX, int screenY, int delta, const ScreenRect& canvasO
         static_cast<double>(TruncateToInt(static_cast<float>(screenY) / view.scale)) - view.viewY;
     if (delta > 0)
         view.scale = static_cast<float>(view.scale * 1.1);
-    else if (delta < 0)
+    else
         view.scale = static_cast<float>(view.scale / 1.1);
     view.scale = std::clamp(view.scale, 0.01f, 2.0f);
     view.viewX = TruncateToInt(TruncateToInt(static_cast<float>(screenX) / view.scale) - worldX);

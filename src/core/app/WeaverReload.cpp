@@ -29,8 +29,11 @@ void Weaver::ReloadBlocks() {
     // As with the viewer below, a failure here is not examined: the file
     // was writable a moment ago.
     files.ReplaceFile(kReloadLogPath, text);
-    if (viewHost != nullptr)
-        viewHost->OpenTextFile(files.Resolve(kReloadLogPath));
+    // Without a viewer the user must at least learn where the log is.
+    const std::string logPath = files.Resolve(kReloadLogPath);
+    if (viewHost != nullptr && !viewHost->OpenTextFile(logPath))
+        prompts.ShowMessage("No program could show the reload log. It is in \"" + logPath + "\".",
+                            MessageIcon::Information);
 }
 
 } // namespace lw

@@ -23,7 +23,8 @@ bool AddNewLinkDlg::LinkExists(const Link& candidate) const {
 // The answer to either message does not matter: the dialog stays open.
 bool AddNewLinkDlg::Ok(UserPrompts& prompts) {
     if (fromCombo.Text().empty() || toCombo.Text().empty()) {
-        prompts.ShowMessage("Select both connections!", MessageIcon::None);
+        prompts.ShowMessage("Select both connections!", MessageIcon::None,
+                            MessageButtons::OkCancel);
         return false;
     }
     Link candidate;
@@ -33,7 +34,8 @@ bool AddNewLinkDlg::Ok(UserPrompts& prompts) {
     candidate.toGate = toCombo.Text();
     candidate.toPhaseId = toPhase_.id;
     if (LinkExists(candidate)) {
-        prompts.ShowMessage("Such Link Already Exists!", MessageIcon::None);
+        prompts.ShowMessage("Such Link Already Exists!", MessageIcon::None,
+                            MessageButtons::OkCancel);
         return false;
     }
     link = candidate;

@@ -2,8 +2,9 @@
 
 namespace lw {
 
-void RecordingPrompts::ShowMessage(const std::string& text, MessageIcon icon) {
-    log_.push_back({text, icon, false});
+void RecordingPrompts::ShowMessage(const std::string& text, MessageIcon icon,
+                                   MessageButtons buttons) {
+    log_.push_back({text, icon, false, buttons});
 }
 
 Answer RecordingPrompts::Ask(const std::string& question, MessageIcon icon) {

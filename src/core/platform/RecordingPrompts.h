@@ -16,11 +16,13 @@ public:
         std::string text;
         MessageIcon icon;
         bool isQuestion;
+        MessageButtons buttons = MessageButtons::Ok;
     };
 
     explicit RecordingPrompts(Answer fallback = Answer::Cancel) : fallback_(fallback) {}
 
-    void ShowMessage(const std::string& text, MessageIcon icon) override;
+    using UserPrompts::ShowMessage;
+    void ShowMessage(const std::string& text, MessageIcon icon, MessageButtons buttons) override;
     Answer Ask(const std::string& question, MessageIcon icon) override;
 
     void QueueAnswer(Answer answer) { answers_.push_back(answer); }

@@ -22,8 +22,8 @@ public:
     // Shows this cursor while the pointer is over the canvas.
     virtual void ShowCursor(CanvasCursor cursor) = 0;
     // Hands a text file the program wrote, such as a log, to the user's
-    // viewer for text files. Whether that worked is not examined.
-    virtual void OpenTextFile(const std::string& path) = 0;
+    // viewer for text files; false when no program could take it.
+    virtual bool OpenTextFile(const std::string& path) = 0;
 };
 
 } // namespace lw

@@ -21,6 +21,10 @@ public:
     void accept() override;
 
 protected:
+    // A dialog taller or wider than the screen's free area would hide its
+    // buttons: it is shown in a scroll area of a size that fits instead.
+    void showEvent(QShowEvent* event) override;
+
     // Reads every widget into the model.
     virtual void TakeWidgets() = 0;
     // Shows every field of the model in its widget.

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QVBoxLayout>
 
 QtCheckLocationTypePropertiesDlg::QtCheckLocationTypePropertiesDlg(
@@ -18,11 +19,18 @@ QtCheckLocationTypePropertiesDlg::QtCheckLocationTypePropertiesDlg(
     typeRow->addRow(tr("Location Type:"), typeCombo_);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(typeRow);
+    // The boxes run down columns of eight, in their order from the top, so
+    // that the 23 of "Decoration" fit on a small screen.
+    constexpr int kRowsPerColumn = 8;
+    auto* grid = new QGridLayout;
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         boxes_[i] = new QCheckBox(this);
         boxes_[i]->setObjectName(QString("box%1").arg(i));
-        layout->addWidget(boxes_[i]);
+        const int index = static_cast<int>(i);
+        grid->addWidget(boxes_[i], index % kRowsPerColumn, index / kRowsPerColumn);
     }
+    layout->addLayout(grid);
+    layout->addStretch(1);
     layout->addWidget(OkCancelButtons());
 
     connect(typeCombo_, &QComboBox::currentIndexChanged, this,

@@ -23,7 +23,8 @@ TEST(CommandTableTest, MenusKeepTheirOddSeparatorsAndTexts) {
               (std::vector<std::string>{"&File", "&Edit", "&View", "&Phase", "&Options", "&Help"}));
     EXPECT_TRUE(Menu("&View").entries.front().IsSeparator());
     EXPECT_TRUE(Menu("&Options").entries.back().IsSeparator());
-    EXPECT_EQ(Menu("&File").entries[3].text, "Save As\tCtrl+Shit+S");
+    // The key's name is spelled right: a user must never read a slip in it.
+    EXPECT_EQ(Menu("&File").entries[3].text, "Save As\tCtrl+Shift+S");
     EXPECT_EQ(Menu("&Edit").entries[5].text, "&Paste\tCtrl+V");
     EXPECT_EQ(Menu("&Edit").entries[5].command, CommandId::EditPaste);
     EXPECT_EQ(Menu("&Edit").entries[7].text, "Reload Blocks \"on the fly\"");

@@ -351,6 +351,16 @@ TEST_F(GestureTest, AWheelStepDuringABandMovesItsCornerToTheScreenPoint) {
     EXPECT_EQ(weaver.bandRect, (ScreenRect{-19, -9, 300, 200}));
     EXPECT_EQ(weaver.previousBandRect, (ScreenRect{10, 10, 50, 50}));
     EXPECT_EQ(weaver.interactionState, StateRubberBand);
+
+    // A wheel event with no vertical step (a sideways scroll) is no zoom at
+    // all: it must not move the view, swap the font or jump the band.
+    const CanvasView before = e.view;
+    const int repaints = e.host.repaints;
+    input.Wheel(600, 400, 0, ScreenRect{100, 100, 900, 700});
+    EXPECT_EQ(e.view.viewX, before.viewX);
+    EXPECT_EQ(e.view.font, before.font);
+    EXPECT_EQ(weaver.bandRect, (ScreenRect{-19, -9, 300, 200}));
+    EXPECT_EQ(e.host.repaints, repaints);
 }
 
 TEST_F(GestureTest, TheRightButtonPansInAnyStateAndOnlyAnExactRightClickOpensTheMenu) {

@@ -115,3 +115,13 @@ TEST_F(ReloadBlocksTest, ALogThatCannotBeCreatedStopsBeforeAnythingIsTouched) {
     EXPECT_TRUE(editor.host.openedFiles.empty());
     ExpectHistoryGoneAndChanged();
 }
+
+// Without a program to show it, the log would be written where the user
+// never learns to look.
+TEST_F(ReloadBlocksTest, ALogNoProgramCanShowIsNamedInAMessage) {
+    editor.host.canOpenFiles = false;
+    editor.weaver.ReloadBlocks();
+    EXPECT_EQ(editor.prompts.MessageTexts(),
+              std::vector<std::string>{"No program could show the reload log. It is in \"" +
+                                       kLogFile + "\"."});
+}

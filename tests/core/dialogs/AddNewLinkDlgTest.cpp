@@ -47,6 +47,7 @@ TEST_F(AddNewLinkDlgTest, BothConnectionsAreRequired) {
     EXPECT_FALSE(dialog.Ok(e.prompts));
     EXPECT_EQ(e.prompts.MessageTexts(), Texts(3, "Select both connections!"));
     EXPECT_EQ(e.prompts.Log().back().icon, MessageIcon::None);
+    EXPECT_EQ(e.prompts.Log().back().buttons, MessageButtons::OkCancel);
     EXPECT_EQ(dialog.link, Link{});
 }
 
@@ -67,6 +68,7 @@ TEST_F(AddNewLinkDlgTest, ASecondLinkOfTheSameKindIsRefused) {
     EXPECT_FALSE(again.Ok(e.prompts));
     EXPECT_EQ(e.prompts.MessageTexts(), Texts{"Such Link Already Exists!"});
     EXPECT_EQ(e.prompts.Log().back().icon, MessageIcon::None);
+    EXPECT_EQ(e.prompts.Log().back().buttons, MessageButtons::OkCancel);
     EXPECT_EQ(again.link, Link{});
 }
 

@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QtTest>
 
 using Texts = std::vector<std::string>;
@@ -37,6 +39,10 @@ private slots:
         QCOMPARE(check.params, (Texts{"AirObjective", "Balloon"}));
 
         types->setCurrentIndex(2);
+        // All 23 boxes of "Decoration" fit on the test's 800 by 600 screen
+        // without scrolling, so OK can always be reached.
+        QVERIFY(dlg.sizeHint().height() < dlg.screen()->availableGeometry().height() - 48);
+        QVERIFY(dlg.findChild<QScrollArea*>() == nullptr);
         QCOMPARE(box(7)->text(), QString("Balloon"));
         QVERIFY(box(7)->isVisible() && box(7)->isChecked() && !box(5)->isChecked());
         box(1)->click();
