@@ -166,6 +166,17 @@ void CChildView::ShowContextMenu(const QPoint& point) {
     QCoreApplication::sendEvent(window(), &cleared);
 }
 
+// A view fitted at start or by Open is fitted again to the canvas's new size.
+void CChildView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (weaver_ != nullptr)
+        weaver_->CanvasResized(width(), height());
+    else {
+        pixelWidth = width();
+        pixelHeight = height();
+    }
+}
+
 void CChildView::paintEvent(QPaintEvent*) {
     if (weaver_ == nullptr)
         return;

@@ -2,9 +2,11 @@
 
 #include "CAboutDlg.h"
 #include "CommandActions.h"
+#include "FindBar.h"
 #include "LockKeyIndicators.h"
 #include "QtText.h"
 #include "app/AppInfo.h"
+#include "app/CanvasStatus.h"
 #include "app/DataFolder.h"
 
 #include <QCloseEvent>
@@ -16,6 +18,7 @@
 #include <QStyle>
 #include <QToolBar>
 #include <QUrl>
+#include <QVBoxLayout>
 
 CMainFrame::CMainFrame(QWidget* parent)
     : QMainWindow(parent), weaver_(prompts_, optionsStore_, fileSystem_),
@@ -29,8 +32,7 @@ CMainFrame::CMainFrame(QWidget* parent)
 }
 
 bool CMainFrame::OnCreate(const std::string& dataFolder) {
-    view_.setParent(this);
-    setCentralWidget(&view_);
+    CreateCanvasArea();
     // Esc and Delete are keys of the canvas: the window hands its focus on.
     setFocusProxy(&view_);
     actions_ = new CommandActions(*this, [this](lw::CommandId command) { RunCommand(command); });
@@ -49,8 +51,29 @@ bool CMainFrame::OnCreate(const std::string& dataFolder) {
     const QString program = QCoreApplication::applicationFilePath();
     weaver_.StartUp(dataFolder.empty() ? lw::DataFolderForExecutable(PathToStdString(program))
                                        : dataFolder);
+    weaver_.OpenFirstStartTemplate();
     RefreshCommandStates();
     return true;
+}
+
+// The canvas, with the find bar under it, hidden until Find is asked for.
+void CMainFrame::CreateCanvasArea() {
+    auto* area = new QWidget(this);
+    auto* layout = new QVBoxLayout(area);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    view_.setParent(area);
+    layout->addWidget(&view_, 1);
+    findBar_ = new FindBar(commands_.Find(), area);
+    findBar_->hide();
+    layout->addWidget(findBar_);
+    setCentralWidget(area);
+    connect(findBar_, &FindBar::stepAsked, this, &CMainFrame::StepThroughMatches);
+    connect(findBar_, &FindBar::closed, this, [this] { view_.setFocus(); });
+}
+
+void CMainFrame::StepThroughMatches(bool forward) {
+    RunCommand(forward ? lw::CommandId::FindNext : lw::CommandId::FindPrevious);
 }
 
 // The window comes back where the user left it. The first time it opens at
@@ -72,7 +95,25 @@ void CMainFrame::CreateStatusBar() {
     auto* ready = new QLabel(tr("Ready"), statusBar());
     ready->setObjectName("ready");
     statusBar()->addWidget(ready, 1);
+    const auto field = [this](const char* name) {
+        auto* label = new QLabel(statusBar());
+        label->setObjectName(name);
+        statusBar()->addPermanentWidget(label);
+        return label;
+    };
+    hintField_ = field("hint");
+    pointerField_ = field("pointer");
+    selectionField_ = field("selection");
+    zoomField_ = field("zoom");
     new LockKeyIndicators(*statusBar());
+}
+
+void CMainFrame::RefreshCanvasStatus() {
+    const lw::CanvasStatus status = lw::DescribeCanvas(weaver_);
+    hintField_->setText(ToQString(status.hint));
+    pointerField_->setText(ToQString(status.pointer));
+    selectionField_->setText(ToQString(status.selection));
+    zoomField_->setText(ToQString(status.zoom));
 }
 
 void CMainFrame::RunCommand(lw::CommandId command) {
@@ -82,6 +123,16 @@ void CMainFrame::RunCommand(lw::CommandId command) {
         RunWindowCommand(command);
     else
         commands_.Run(command);
+    const bool finding = command == lw::CommandId::EditFind || command == lw::CommandId::FindNext ||
+                         command == lw::CommandId::FindPrevious;
+    if (finding) {
+        findBar_->ShowStatus();
+        statusBar()->showMessage(ToQString(commands_.Find().Status()));
+    } else {
+        // After any dialog or message box the canvas takes the keys again,
+        // so that Escape reaches a placing at once.
+        view_.setFocus();
+    }
     RefreshCommandStates();
 }
 
@@ -98,6 +149,9 @@ void CMainFrame::RunWindowCommand(lw::CommandId command) {
         break;
     case lw::CommandId::ViewStatusBar:
         statusBar()->setVisible(statusBar()->isHidden());
+        break;
+    case lw::CommandId::EditFind:
+        findBar_->Open();
         break;
     default:
         break;
@@ -118,6 +172,8 @@ void CMainFrame::RefreshCommandStates() {
         return;
     actions_->Refresh([this](lw::CommandId command) { return commands_.IsEnabled(command); },
                       [this](lw::CommandId command) { return IsChecked(command); });
+    actions_->ShowRecentFiles(weaver_.recentFiles.Paths());
+    RefreshCanvasStatus();
 }
 
 // Every change of the document and every undo and redo refreshes the title,
@@ -143,6 +199,10 @@ void CMainFrame::ShowCursor(lw::CanvasCursor cursor) {
     RefreshCommandStates();
 }
 
+void CMainFrame::ShowStatusText(const std::string& text) {
+    statusBar()->showMessage(ToQString(text));
+}
+
 bool CMainFrame::OpenTextFile(const std::string& path) {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(PathToQString(path)));
 }
@@ -152,7 +212,7 @@ void CMainFrame::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    weaver_.options.Save(optionsStore_);
+    weaver_.SaveOptions();
     optionsStore_.SetWindowGeometry(saveGeometry());
     optionsStore_.Flush();
     event->accept();

@@ -13,6 +13,8 @@
 #include <QMainWindow>
 
 class CommandActions;
+class FindBar;
+class QLabel;
 
 // The main window. It holds the canvas and the central Weaver, gives Weaver
 // the platform's message boxes, options, files and window, and is where
@@ -34,16 +36,20 @@ public:
     lw::EditMenuCommands& editCommands() { return commands_.Edit(); }
     CChildView& view() { return view_; }
     CommandActions& actions() { return *actions_; }
+    FindBar& findBar() { return *findBar_; }
 
     // Runs the command if its enable rule allows it now, then brings every
     // menu entry, button and key up to date.
     void RunCommand(lw::CommandId command);
     void RefreshCommandStates();
+    // The zoom, the pointer, the selection and the gesture's hint.
+    void RefreshCanvasStatus();
 
     void SetTitle(const std::string& title) override;
     void Repaint() override;
     void RepaintArea(const lw::ScreenRect& area) override;
     void ShowCursor(lw::CanvasCursor cursor) override;
+    void ShowStatusText(const std::string& text) override;
     bool OpenTextFile(const std::string& path) override;
 
 protected:
@@ -52,7 +58,10 @@ protected:
 
 private:
     void CreateStatusBar();
+    void CreateCanvasArea();
     void PlaceOnScreen();
+    // Steps to the next or previous match of the find bar, and says where it is.
+    void StepThroughMatches(bool forward);
     bool IsChecked(lw::CommandId command) const;
     // The commands of the window itself: leaving, the About box, the bars.
     void RunWindowCommand(lw::CommandId command);
@@ -67,4 +76,10 @@ private:
     DialogRunner dialogRunner_;
     QtPropertyDialogs propertyDialogs_;
     CommandActions* actions_ = nullptr;
+    FindBar* findBar_ = nullptr;
+    // The status bar's fields for the canvas, from the left.
+    QLabel* hintField_ = nullptr;
+    QLabel* pointerField_ = nullptr;
+    QLabel* selectionField_ = nullptr;
+    QLabel* zoomField_ = nullptr;
 };

@@ -45,11 +45,16 @@ void CommandActions::BuildMenus() {
         // or the end of a menu.
         menu->setSeparatorsCollapsible(false);
         connect(menu, &QMenu::aboutToShow, this, &CommandActions::aboutToShowMenu);
+        bool afterRecentFiles = false;
         for (const lw::MenuEntry& entry : definition.entries) {
-            if (entry.IsSeparator())
-                menu->addSeparator();
-            else
+            if (entry.IsSeparator()) {
+                QAction* separator = menu->addSeparator();
+                if (afterRecentFiles)
+                    recentSeparator_ = separator;
+            } else {
                 menu->addAction(MakeAction(*entry.command, ToQString(entry.text)));
+            }
+            afterRecentFiles = entry.command && lw::IsRecentFile(*entry.command);
         }
     }
 }
@@ -89,6 +94,19 @@ void CommandActions::Refresh(const CommandQuery& isEnabled, const CommandQuery& 
     }
     for (const auto& [command, action] : keys_)
         action->setEnabled(isEnabled(command));
+}
+
+void CommandActions::ShowRecentFiles(const std::vector<std::string>& paths) {
+    for (CommandId command = CommandId::RecentFile1; command <= CommandId::RecentFile8;
+         command = static_cast<CommandId>(static_cast<int>(command) + 1)) {
+        QAction* action = Action(command);
+        const std::size_t index = lw::RecentFileIndex(command);
+        action->setVisible(index < paths.size());
+        if (index < paths.size())
+            action->setText(ToQString(lw::RecentFileText(index, paths[index])));
+    }
+    if (recentSeparator_ != nullptr)
+        recentSeparator_->setVisible(!paths.empty());
 }
 
 QAction* CommandActions::Action(CommandId command) const {

@@ -32,6 +32,8 @@ public:
     void Build();
     // Sets every action's enabled state and tick.
     void Refresh(const CommandQuery& isEnabled, const CommandQuery& isChecked);
+    // The File menu's recent files: an entry for each path, the rest hidden.
+    void ShowRecentFiles(const std::vector<std::string>& paths);
 
     // The action of the command's menu entry and toolbar button.
     QAction* Action(lw::CommandId command) const;
@@ -50,6 +52,8 @@ private:
     QMainWindow& window_;
     CommandRunner run_;
     QToolBar* toolbar_ = nullptr;
+    // The separator below the recent files, hidden while there are none.
+    QAction* recentSeparator_ = nullptr;
     std::map<lw::CommandId, QAction*> actions_;
     std::vector<std::pair<lw::CommandId, QAction*>> keys_;
 };

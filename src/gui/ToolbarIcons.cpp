@@ -216,6 +216,42 @@ void DrawAddSwitch(QPainter& p) {
     Plus(p);
 }
 
+// Four corners round what is shown: the whole view fitted.
+void Corners(QPainter& p, const QColor& colour) {
+    Lines(p, {{0, 4}, {0, 0}, {4, 0}}, colour);
+    Lines(p, {{11, 0}, {15, 0}, {15, 4}}, colour);
+    Lines(p, {{15, 10}, {15, 14}, {11, 14}}, colour);
+    Lines(p, {{4, 14}, {0, 14}, {0, 10}}, colour);
+}
+
+void DrawZoomFit(QPainter& p) {
+    Corners(p, kNavy);
+    Box(p, 3, 3, 5, 4, kYellow);
+    Box(p, 8, 8, 5, 4, kYellow);
+}
+
+void DrawZoomSelection(QPainter& p) {
+    Corners(p, kNavy);
+    Box(p, 4, 4, 8, 7, kYellow);
+}
+
+// A magnifying glass with a sign in its lens.
+void Magnifier(QPainter& p, bool plus) {
+    Oval(p, 0, 0, 11, 11, kWhite, kNavy);
+    Lines(p, {{9, 9}, {14, 14}}, kNavy, 2.0);
+    Cells(p, 3, 5, 5, 1, kBlack);
+    if (plus)
+        Cells(p, 5, 3, 1, 5, kBlack);
+}
+
+void DrawZoomIn(QPainter& p) {
+    Magnifier(p, true);
+}
+
+void DrawZoomOut(QPainter& p) {
+    Magnifier(p, false);
+}
+
 void DrawAbout(QPainter& p) {
     Pattern(p, 4, 1,
             {"  ####  ", " ##  ## ", " ##  ## ", "     ## ", "    ##  ", "   ##   ", "   ##   ",
@@ -262,6 +298,14 @@ Drawing DrawingOf(lw::CommandId command) {
         return DrawAddCase;
     case CommandId::AddSwitch:
         return DrawAddSwitch;
+    case CommandId::ViewZoomFit:
+        return DrawZoomFit;
+    case CommandId::ViewZoomSelection:
+        return DrawZoomSelection;
+    case CommandId::ViewZoomIn:
+        return DrawZoomIn;
+    case CommandId::ViewZoomOut:
+        return DrawZoomOut;
     case CommandId::AppAbout:
         return DrawAbout;
     default:

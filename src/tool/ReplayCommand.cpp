@@ -15,6 +15,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <sstream>
 
 namespace {
 
@@ -193,7 +194,15 @@ private:
                "] changed=" + std::to_string(weaver.undoManager.changed ? 1 : 0) +
                " undo=" + std::to_string(weaver.undoManager.undoStack.size()) +
                " redo=" + std::to_string(weaver.undoManager.redoStack.size()) + " caption=\"" +
-               Caption() + "\"";
+               Caption() + "\" view=" + ViewText();
+    }
+
+    // The view's offset in world units and its scale, so that fitting and
+    // zooming show in a script's output.
+    std::string ViewText() const {
+        std::ostringstream text;
+        text << view_.viewX << "," << view_.viewY << " scale=" << view_.scale;
+        return text.str();
     }
 
     // The window's title, with OUT as the user typed it, so that the output

@@ -117,6 +117,7 @@ private slots:
         QVERIFY(frame.weaver().LoadTemplateFile("scg\\sample_small.mt"));
         frame.view().viewX = -300;
         frame.view().viewY = -200;
+        frame.view().scale = 1.0f;
         frame.show();
         QVERIFY(QTest::qWaitForWindowExposed(&frame));
         const QImage canvas = frame.view().grab().toImage();

@@ -56,6 +56,9 @@ private slots:
     }
 
     void captionIsTheApplicationNameUntilTheFirstRefresh() {
+        // Options stored: no first start, which would open a template.
+        QSettings(lw::kOrganizationName, lw::kApplicationName)
+            .setValue("LoomwrightOptions/OpenLastUsedTemplateOnStart", 1);
         CMainFrame frame;
         QVERIFY(frame.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
         QCOMPARE(frame.windowTitle(), QString(lw::kApplicationName));

@@ -1,5 +1,6 @@
 #include "CMainFrame.h"
 #include "CommandActions.h"
+#include "FindBar.h"
 #include "LockKeyIndicators.h"
 #include "QtPrompts.h"
 #include "QtPropertyDialogs.h"
@@ -9,6 +10,7 @@
 
 #include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -255,7 +257,8 @@ private slots:
         QTest::keyClick(frame.get(), Qt::Key_X, Qt::ControlModifier);
         QCOMPARE(frame->weaver().objects.size(), objectsAtStart());
 
-        // A drag first, so that Undo stays enabled while the phase is placed.
+        // A drag first, so that Undo would have something to take while the
+        // phase is placed; it is refused all the same.
         Drag(view, At("PlayerStart"), At("PlayerStart") + QPoint(0, 30));
         QtPrompts prompts;
         ScriptedDialogRunner runner;
@@ -276,7 +279,8 @@ private slots:
         for (CommandId command : selectionOnly)
             QVERIFY(!Enabled(command));
         QVERIFY(!Enabled(CommandId::FileSave));
-        QVERIFY(Enabled(CommandId::EditUndo));
+        QVERIFY(!Enabled(CommandId::EditUndo));
+        QVERIFY(Enabled(CommandId::ViewZoomFit));
         // A disabled key does nothing either: no question about the changes.
         QTest::keyClick(frame.get(), Qt::Key_N, Qt::ControlModifier);
         QCOMPARE(frame->weaver().interactionState, int(lw::StatePlacePhase));
@@ -424,6 +428,91 @@ private slots:
         });
         frame->RunCommand(CommandId::AppAbout);
         QCOMPARE(shownWithTheDialog, QString());
+    }
+
+    // The rich sample opens showing all of its phases, not one of them.
+    void aTemplateOpensFittedAndFindGoesFromMatchToMatch() {
+        CMainFrame fresh;
+        QVERIFY(fresh.OnCreate(dataCopy.path().toStdString()));
+        fresh.resize(1024, 768);
+        fresh.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&fresh));
+        const QRect canvas = fresh.view().rect();
+        const lw::ViewTransform shown = fresh.view();
+        fresh.weaver().ForEach<lw::Phase>([&](const lw::Phase& phase) {
+            const lw::ScreenRect r = phase.GetScreenRect(shown.viewX, shown.viewY, shown.scale);
+            QVERIFY2(canvas.contains(QRect(r.left, r.top, r.right - r.left, r.bottom - r.top)),
+                     phase.name.c_str());
+        });
+
+        // Find selects each match alone and centres it; the count shows in
+        // the status bar, and no match is said in the bar itself.
+        QTest::keyClick(&fresh, Qt::Key_F, Qt::ControlModifier);
+        auto* text = fresh.findBar().findChild<QLineEdit*>("findText");
+        QVERIFY(text->hasFocus());
+        // "Patrol" names blocks of several phases, in any case.
+        QTest::keyClicks(text, "PATROL");
+        QTest::keyClick(text, Qt::Key_Return);
+        QCOMPARE(fresh.weaver().selection.members.size(), std::size_t{1});
+        const auto* found = static_cast<lw::Phase*>(fresh.weaver().selection.members[0]);
+        QVERIFY(fresh.statusBar()->currentMessage().startsWith("1 of "));
+        const QPoint middle = canvas.center();
+        QVERIFY(qAbs(fresh.view().ScreenX(found->posX + 100) - middle.x()) <= 2);
+        QTest::keyClick(&fresh, Qt::Key_F3);
+        QVERIFY(fresh.statusBar()->currentMessage().startsWith("2 of "));
+        text->setText("no such name");
+        QCOMPARE(fresh.findBar().findChild<QLabel*>("findStatus")->text(), QString("No match"));
+        QTest::keyClick(text, Qt::Key_Escape);
+        QVERIFY(fresh.findBar().isHidden());
+        QVERIFY(fresh.view().hasFocus());
+        fresh.weaver().undoManager.changed = false;
+    }
+
+    // A newcomer's first start shows a template rather than an empty canvas.
+    void theFirstStartOpensTheRichSample() {
+        QSettings settings(lw::kOrganizationName, lw::kApplicationName);
+        const auto saved = settings.allKeys();
+        QMap<QString, QVariant> values;
+        for (const QString& key : saved)
+            values[key] = settings.value(key);
+        settings.clear();
+        CMainFrame first;
+        QVERIFY(first.OnCreate(dataCopy.path().toStdString()));
+        QCOMPARE(first.windowTitle(), QString("Loomwright - scg\\sample_rich.mt"));
+        for (auto it = values.begin(); it != values.end(); ++it)
+            settings.setValue(it.key(), it.value());
+    }
+
+    void recentFilesTheStatusBarAndTheFocusAfterAMessage() {
+        QAction* first = frame->actions().Action(CommandId::RecentFile1);
+        QVERIFY(first->isVisible());
+        QCOMPARE(first->text(), QString("&1 scg\\sample_rich.mt"));
+        QVERIFY(!frame->actions().Action(CommandId::RecentFile2)->isVisible());
+        // A recent file that is gone leaves the list with a word.
+        frame->weaver().recentFiles.Add("scg\\gone.mt");
+        frame->RefreshCommandStates();
+        frame->RunCommand(CommandId::RecentFile1);
+        QCOMPARE(frame->statusBar()->currentMessage(), QString("scg\\gone.mt no longer exists."));
+        QCOMPARE(frame->weaver().recentFiles.Paths().size(), std::size_t{1});
+
+        // The status bar tells the zoom and what a placing waits for.
+        QVERIFY(frame->statusBar()->findChild<QLabel*>("zoom")->text().endsWith('%'));
+        std::filesystem::remove(dataCopy.filePath("scg/clipboard.mt").toStdString());
+        frame->RunCommand(CommandId::EditFind);
+        OnNext<QMessageBox>([](QMessageBox& box) {
+            QCOMPARE(box.text(), QString("The clipboard is empty."));
+            box.accept();
+        });
+        frame->RunCommand(CommandId::EditPaste);
+        // The canvas, not the find bar, has the keys again, so that Escape
+        // works at once.
+        QCOMPARE(frame->focusWidget(), view);
+        Click(view, At("PlayerStart"));
+        frame->RunCommand(CommandId::EditCopy);
+        frame->RunCommand(CommandId::EditPaste);
+        QCOMPARE(frame->statusBar()->findChild<QLabel*>("hint")->text(),
+                 QString("Click to place the template, Esc cancels"));
+        QTest::keyClick(view, Qt::Key_Escape);
     }
 
     void theWindowIsGrabbedToAPicture() {

@@ -99,7 +99,7 @@ TEST_F(ToolReplayTest, ReadsCommentsBlanksAndCrLf) {
     WriteScript("\t click\t400 450 # PatrolStart\r\n   \r\ndump\r\n");
     const ToolRun run = Replay(lw::test::SampleDataDir(), sampleInput, "script.txt");
     EXPECT_EQ(run.output, "state=0 selection=[PatrolStart] changed=0 undo=0 redo=0 "
-                          "caption=\"Loomwright - out.mt\"\n");
+                          "caption=\"Loomwright - out.mt\" view=0,0 scale=1\n");
     EXPECT_EQ(run.status, 0);
 }
 
@@ -117,7 +117,7 @@ TEST_F(ToolReplayTest, FailsWithoutItsFiles) {
 
     const ToolRun noFolder = Replay(data, sampleInput, "script.txt", "missing/out.mt");
     EXPECT_EQ(noFolder.output, "state=0 selection=[] changed=0 undo=0 redo=0 "
-                               "caption=\"Loomwright - missing/out.mt\"\n"
+                               "caption=\"Loomwright - missing/out.mt\" view=0,0 scale=1\n"
                                "Can't save template file!\n");
     EXPECT_EQ(noFolder.status, 2);
 

@@ -7,7 +7,7 @@ namespace lw {
 
 namespace {
 
-constexpr std::array<std::pair<CommandId, const char*>, 42> kNames{{
+constexpr std::array<std::pair<CommandId, const char*>, 57> kNames{{
     {CommandId::FileNew, "ID_FILE_NEW"},
     {CommandId::FileOpen, "ID_FILE_OPEN"},
     {CommandId::FileSave, "ID_FILE_SAVE"},
@@ -50,9 +50,32 @@ constexpr std::array<std::pair<CommandId, const char*>, 42> kNames{{
     {CommandId::DeleteLinks, "ID_DELETE_LINKS"},
     {CommandId::AddPrimaryLink, "ID_ADD_PRIMARY_LINK"},
     {CommandId::AddSecondaryLink, "ID_ADD_SECONDARY_LINK"},
+    {CommandId::ViewZoomFit, "ID_VIEW_ZOOM_FIT"},
+    {CommandId::ViewZoomSelection, "ID_VIEW_ZOOM_SELECTION"},
+    {CommandId::ViewZoomIn, "ID_VIEW_ZOOM_IN"},
+    {CommandId::ViewZoomOut, "ID_VIEW_ZOOM_OUT"},
+    {CommandId::EditFind, "ID_EDIT_FIND"},
+    {CommandId::FindNext, "ID_EDIT_FIND_NEXT"},
+    {CommandId::FindPrevious, "ID_EDIT_FIND_PREVIOUS"},
+    {CommandId::RecentFile1, "ID_FILE_MRU_FILE1"},
+    {CommandId::RecentFile2, "ID_FILE_MRU_FILE2"},
+    {CommandId::RecentFile3, "ID_FILE_MRU_FILE3"},
+    {CommandId::RecentFile4, "ID_FILE_MRU_FILE4"},
+    {CommandId::RecentFile5, "ID_FILE_MRU_FILE5"},
+    {CommandId::RecentFile6, "ID_FILE_MRU_FILE6"},
+    {CommandId::RecentFile7, "ID_FILE_MRU_FILE7"},
+    {CommandId::RecentFile8, "ID_FILE_MRU_FILE8"},
 }};
 
 } // namespace
+
+bool IsRecentFile(CommandId command) {
+    return command >= CommandId::RecentFile1 && command <= CommandId::RecentFile8;
+}
+
+std::size_t RecentFileIndex(CommandId command) {
+    return static_cast<std::size_t>(command) - static_cast<std::size_t>(CommandId::RecentFile1);
+}
 
 const char* CommandName(CommandId command) {
     for (const auto& [id, name] : kNames) {

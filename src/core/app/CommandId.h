@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -49,7 +50,26 @@ enum class CommandId {
     DeleteLinks,
     AddPrimaryLink,
     AddSecondaryLink,
+    ViewZoomFit,
+    ViewZoomSelection,
+    ViewZoomIn,
+    ViewZoomOut,
+    EditFind,
+    FindNext,
+    FindPrevious,
+    RecentFile1,
+    RecentFile2,
+    RecentFile3,
+    RecentFile4,
+    RecentFile5,
+    RecentFile6,
+    RecentFile7,
+    RecentFile8,
 };
+
+// The place in the recent files that a RecentFile command opens, from 0.
+std::size_t RecentFileIndex(CommandId command);
+bool IsRecentFile(CommandId command);
 
 // The command's id name, such as "ID_EDIT_UNDO", by which scripts name it.
 const char* CommandName(CommandId command);

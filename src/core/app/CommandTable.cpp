@@ -60,6 +60,13 @@ const std::map<CommandId, const char*>& Prompts() {
         {C::AddTargetLink10, "Add Target link\\Add Target Link"},
         {C::AddObjectLink10, "Add Object link\\Add Object Link"},
         {C::DeleteLinks, "Shows Delete Links Dialog for Selected Phase\nDelete Links"},
+        {C::ViewZoomFit, "Show the whole template\nFit All"},
+        {C::ViewZoomSelection, "Show the whole selection\nFit Selection"},
+        {C::ViewZoomIn, "Zoom in on the middle of the canvas\nZoom In"},
+        {C::ViewZoomOut, "Zoom out from the middle of the canvas\nZoom Out"},
+        {C::EditFind, "Find phases, cases and switches by their names\nFind"},
+        {C::FindNext, "Go to the next object found\nFind Next"},
+        {C::FindPrevious, "Go to the previous object found\nFind Previous"},
     };
     return prompts;
 }
@@ -82,6 +89,10 @@ const std::vector<MenuDefinition>& MainMenu() {
         {"&File",
          {Entry("New\tCtrl+N", C::FileNew), Entry("Open\tCtrl+O", C::FileOpen),
           Entry("Save\tCtrl+S", C::FileSave), Entry("Save As\tCtrl+Shift+S", C::FileSaveAs),
+          Separator(), Entry("Recent File", C::RecentFile1), Entry("Recent File", C::RecentFile2),
+          Entry("Recent File", C::RecentFile3), Entry("Recent File", C::RecentFile4),
+          Entry("Recent File", C::RecentFile5), Entry("Recent File", C::RecentFile6),
+          Entry("Recent File", C::RecentFile7), Entry("Recent File", C::RecentFile8), Separator(),
           Entry("E&xit", C::AppExit)}},
         {"&Edit",
          {Entry("&Undo\tCtrl+Z", C::EditUndo), Entry("&Redo\tCtrl+Y", C::EditRedo), Separator(),
@@ -89,12 +100,17 @@ const std::vector<MenuDefinition>& MainMenu() {
           Entry("&Paste\tCtrl+V", C::EditPaste), Separator(),
           Entry("Reload Blocks \"on the fly\"", C::ReloadBlocks),
           Entry("Save Selection to file", C::SaveSelection),
-          Entry("Import From File", C::ImportTemplate)}},
+          Entry("Import From File", C::ImportTemplate), Separator(),
+          Entry("Find...\tCtrl+F", C::EditFind), Entry("Find Next\tF3", C::FindNext),
+          Entry("Find Previous\tShift+F3", C::FindPrevious)}},
         {"&View",
          {Separator(), Entry("&Toolbar", C::ViewToolbar), Entry("&Status Bar", C::ViewStatusBar),
           Separator(), Entry("Draw Inputs, Outputs, Links", C::DrawIo),
           Entry("Draw Switches and Cases", C::DrawSwitches), Entry("Draw Checks", C::DrawChecks),
-          Entry("Draw Actions", C::DrawActions), Entry("Draw Geometry", C::DrawGeometry)}},
+          Entry("Draw Actions", C::DrawActions), Entry("Draw Geometry", C::DrawGeometry),
+          Separator(), Entry("Fit All\tCtrl+0", C::ViewZoomFit),
+          Entry("Fit Selection", C::ViewZoomSelection), Entry("Zoom In\tCtrl++", C::ViewZoomIn),
+          Entry("Zoom Out\tCtrl+-", C::ViewZoomOut)}},
         {"&Phase",
          {Entry("Add new phase", C::AddPhase), Entry("Add new unlinker", C::AddUnlinker),
           Entry("Add new case", C::AddCase), Entry("Add new switch", C::AddSwitch)}},
@@ -106,10 +122,12 @@ const std::vector<MenuDefinition>& MainMenu() {
 
 const std::vector<std::optional<CommandId>>& ToolbarButtons() {
     static const std::vector<std::optional<CommandId>> buttons = {
-        C::FileNew,      C::FileOpen,   C::FileSave,    std::nullopt,    C::EditUndo,  C::EditRedo,
-        std::nullopt,    C::EditCut,    C::EditCopy,    C::EditPaste,    std::nullopt, C::DrawIo,
-        C::DrawSwitches, C::DrawChecks, C::DrawActions, C::DrawGeometry, std::nullopt, C::AddPhase,
-        C::AddUnlinker,  C::AddCase,    C::AddSwitch,   std::nullopt,    C::AppAbout,
+        C::FileNew,      C::FileOpen,  C::FileSave,     std::nullopt,         C::EditUndo,
+        C::EditRedo,     std::nullopt, C::EditCut,      C::EditCopy,          C::EditPaste,
+        std::nullopt,    C::DrawIo,    C::DrawSwitches, C::DrawChecks,        C::DrawActions,
+        C::DrawGeometry, std::nullopt, C::ViewZoomFit,  C::ViewZoomSelection, C::ViewZoomIn,
+        C::ViewZoomOut,  std::nullopt, C::AddPhase,     C::AddUnlinker,       C::AddCase,
+        C::AddSwitch,    std::nullopt, C::AppAbout,
     };
     return buttons;
 }
@@ -119,16 +137,34 @@ const std::vector<std::optional<CommandId>>& ToolbarButtons() {
 // the pointer is.
 const std::vector<Accelerator>& Accelerators() {
     static const std::vector<Accelerator> keys = {
-        {"Ctrl+N", C::FileNew},          {"Ctrl+O", C::FileOpen},
-        {"Ctrl+S", C::FileSave},         {"Ctrl+Shift+S", C::FileSaveAs},
-        {"Ctrl+Z", C::EditUndo},         {"Alt+Backspace", C::EditUndo},
-        {"Ctrl+Y", C::EditRedo},         {"Ctrl+X", C::EditCut},
-        {"Shift+Delete", C::EditCut},    {"Ctrl+C", C::EditCopy},
-        {"Ctrl+Insert", C::EditCopy},    {"Shift+Insert", C::EditPaste},
-        {"Ctrl+V", C::PasteAtPointer},   {"Shift+T", C::AddPrimaryLink},
+        {"Ctrl+N", C::FileNew},
+        {"Ctrl+O", C::FileOpen},
+        {"Ctrl+S", C::FileSave},
+        {"Ctrl+Shift+S", C::FileSaveAs},
+        {"Ctrl+Z", C::EditUndo},
+        {"Alt+Backspace", C::EditUndo},
+        {"Ctrl+Y", C::EditRedo},
+        {"Ctrl+X", C::EditCut},
+        {"Shift+Delete", C::EditCut},
+        {"Ctrl+C", C::EditCopy},
+        {"Ctrl+Insert", C::EditCopy},
+        {"Shift+Insert", C::EditPaste},
+        {"Ctrl+V", C::PasteAtPointer},
+        {"Shift+T", C::AddPrimaryLink},
         {"Ctrl+T", C::AddSecondaryLink},
+        {"Ctrl+0", C::ViewZoomFit},
+        {"Ctrl++", C::ViewZoomIn},
+        {"Ctrl+=", C::ViewZoomIn},
+        {"Ctrl+-", C::ViewZoomOut},
+        {"Ctrl+F", C::EditFind},
+        {"F3", C::FindNext},
+        {"Shift+F3", C::FindPrevious},
     };
     return keys;
+}
+
+std::string RecentFileText(std::size_t index, const std::string& path) {
+    return "&" + std::to_string(index + 1) + " " + path;
 }
 
 std::string StatusText(CommandId command) {

@@ -39,6 +39,10 @@ std::string StatusText(CommandId command);
 // The button's tool tip; empty when it has none.
 std::string ToolTipText(CommandId command);
 
+// The File menu's entry of a recent file: its number, which is its key, and
+// its path.
+std::string RecentFileText(std::size_t index, const std::string& path);
+
 // A command that switches something on or off and shows a tick while on.
 bool IsToggle(CommandId command);
 

@@ -26,15 +26,24 @@ void EditMenuCommands::Copy() {
         weaver_.ExportSelection(Weaver::kClipboardPath);
 }
 
+// With no clipboard file yet, nothing was ever copied: that is what the user
+// is told, rather than that some file would not open.
+bool EditMenuCommands::ClipboardExists() {
+    if (weaver_.files.KindOf(Weaver::kClipboardPath) == PathKind::File)
+        return true;
+    weaver_.prompts.ShowMessage("The clipboard is empty.", MessageIcon::Information);
+    return false;
+}
+
 void EditMenuCommands::Paste() {
-    if (!weaver_.IsIdle())
+    if (!weaver_.IsIdle() || !ClipboardExists())
         return;
     weaver_.selection.Clear();
     WaitToPlace(Weaver::kClipboardPath);
 }
 
 void EditMenuCommands::PasteAtPointer() {
-    if (!weaver_.IsIdle())
+    if (!weaver_.IsIdle() || !ClipboardExists())
         return;
     weaver_.selection.Clear();
     const ViewTransform view = weaver_.CurrentView();

@@ -36,6 +36,8 @@ public:
 
 private:
     void WaitToPlace(const std::string& path);
+    // False, with a message, when nothing was ever copied.
+    bool ClipboardExists();
 
     Weaver& weaver_;
     FileCommands& fileCommands_;

@@ -6,9 +6,8 @@
 namespace lw {
 
 EditorCommands::EditorCommands(Weaver& weaver, FileDialogs& fileDialogs)
-    : weaver_(weaver), file_(weaver, fileDialogs), edit_(weaver, file_) {
-    // Both entries of a link kind make the same link, from the first
-    // selected phase to the second.
+    : weaver_(weaver), file_(weaver, fileDialogs), edit_(weaver, file_), finder_(weaver) {
+    // The link entries make the link in the direction their text names.
     handlers_ = {
         {CommandId::FileNew, [this] { file_.New(); }},
         {CommandId::FileOpen, [this] { file_.Open(); }},
@@ -37,12 +36,21 @@ EditorCommands::EditorCommands(Weaver& weaver, FileDialogs& fileDialogs)
         {CommandId::AddFreeCheck, [this] { weaver_.AddCheck(CheckFree); }},
         {CommandId::AddTargetLink01, [this] { weaver_.AddLink(false); }},
         {CommandId::AddObjectLink01, [this] { weaver_.AddLink(true); }},
-        {CommandId::AddTargetLink10, [this] { weaver_.AddLink(false); }},
-        {CommandId::AddObjectLink10, [this] { weaver_.AddLink(true); }},
+        {CommandId::AddTargetLink10, [this] { weaver_.AddLink(false, true); }},
+        {CommandId::AddObjectLink10, [this] { weaver_.AddLink(true, true); }},
         {CommandId::DeleteLinks, [this] { weaver_.DeleteLinksOfPhase(); }},
         {CommandId::AddPrimaryLink, [this] { weaver_.StartGeometryLink(true); }},
         {CommandId::AddSecondaryLink, [this] { weaver_.StartGeometryLink(false); }},
+        {CommandId::ViewZoomFit, [this] { weaver_.FitAll(); }},
+        {CommandId::ViewZoomSelection, [this] { weaver_.FitSelection(); }},
+        {CommandId::ViewZoomIn, [this] { weaver_.ZoomIn(); }},
+        {CommandId::ViewZoomOut, [this] { weaver_.ZoomOut(); }},
+        {CommandId::FindNext, [this] { finder_.Next(); }},
+        {CommandId::FindPrevious, [this] { finder_.Previous(); }},
     };
+    for (CommandId recent = CommandId::RecentFile1; recent <= CommandId::RecentFile8;
+         recent = static_cast<CommandId>(static_cast<int>(recent) + 1))
+        handlers_[recent] = [this, recent] { file_.OpenRecent(RecentFileIndex(recent)); };
 }
 
 bool* EditorCommands::Toggle(CommandId command) const {
@@ -72,23 +80,41 @@ bool EditorCommands::IsChecked(CommandId command) const {
 
 bool EditorCommands::IsWindowCommand(CommandId command) {
     return command == CommandId::AppExit || command == CommandId::AppAbout ||
-           command == CommandId::ViewToolbar || command == CommandId::ViewStatusBar;
+           command == CommandId::ViewToolbar || command == CommandId::ViewStatusBar ||
+           command == CommandId::EditFind;
 }
 
-bool EditorCommands::IsEnabled(CommandId command) const {
+bool EditorCommands::IsViewCommand(CommandId command) {
     switch (command) {
-    case CommandId::FileNew:
-    case CommandId::FileOpen:
-    case CommandId::FileSaveAs:
-    case CommandId::EditPaste:
-    case CommandId::PasteAtPointer:
-    case CommandId::ReloadBlocks:
-    case CommandId::ImportTemplate:
-    case CommandId::AddPhase:
-    case CommandId::AddUnlinker:
-    case CommandId::AddCase:
-    case CommandId::AddSwitch:
-        return weaver_.IsIdle();
+    case CommandId::AppExit:
+    case CommandId::AppAbout:
+    case CommandId::ViewToolbar:
+    case CommandId::ViewStatusBar:
+    case CommandId::DrawIo:
+    case CommandId::DrawSwitches:
+    case CommandId::DrawChecks:
+    case CommandId::DrawActions:
+    case CommandId::DrawGeometry:
+    case CommandId::OpenLastOnStart:
+    case CommandId::ViewZoomFit:
+    case CommandId::ViewZoomSelection:
+    case CommandId::ViewZoomIn:
+    case CommandId::ViewZoomOut:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// While a new object waits to be placed, or a link is being drawn, only the
+// commands that look are taken: anything else could leave the half-made
+// object behind, or save it.
+bool EditorCommands::IsEnabled(CommandId command) const {
+    if (IsViewCommand(command))
+        return command != CommandId::ViewZoomSelection || !weaver_.selection.members.empty();
+    if (!weaver_.IsIdle())
+        return false;
+    switch (command) {
     case CommandId::FileSave:
         return weaver_.CanSave();
     case CommandId::EditUndo:
@@ -99,10 +125,14 @@ bool EditorCommands::IsEnabled(CommandId command) const {
     case CommandId::EditCopy:
     case CommandId::SaveSelection:
         return weaver_.HasIdleSelection();
+    case CommandId::FindNext:
+    case CommandId::FindPrevious:
+        return finder_.MatchCount() != 0;
     default:
-        // The toggles, the window's own commands and those of the context
-        // menu and its keys are always enabled; their operations test for
-        // themselves what they need.
+        if (IsRecentFile(command))
+            return RecentFileIndex(command) < weaver_.recentFiles.Paths().size();
+        // Every other command, those of the context menu and its keys among
+        // them, tests for itself what else it needs.
         return true;
     }
 }

@@ -3,6 +3,7 @@
 #include "app/CommandId.h"
 #include "app/EditMenuCommands.h"
 #include "app/FileCommands.h"
+#include "app/Finder.h"
 
 #include <functional>
 #include <map>
@@ -31,13 +32,17 @@ public:
 
     FileCommands& File() { return file_; }
     EditMenuCommands& Edit() { return edit_; }
+    Finder& Find() { return finder_; }
 
 private:
     bool* Toggle(CommandId command) const;
+    // The commands that only look: they may run in the middle of a gesture.
+    static bool IsViewCommand(CommandId command);
 
     Weaver& weaver_;
     FileCommands file_;
     EditMenuCommands edit_;
+    Finder finder_;
     // What each command does, for all but the toggles and the window's own.
     std::map<CommandId, std::function<void()>> handlers_;
 };

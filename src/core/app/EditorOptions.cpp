@@ -14,7 +14,25 @@ void SaveFlag(OptionsStore& store, const char* key, bool flag) {
 
 } // namespace
 
-void EditorOptions::Load(OptionsStore& store) {
+bool EditorOptions::IsKindShown(ObjectKind kind) const {
+    switch (kind) {
+    case ObjectKind::Phase:
+        return true;
+    case ObjectKind::Switch:
+    case ObjectKind::Case:
+        return DrawSwitchAndCases;
+    case ObjectKind::Check:
+        return DrawChecks;
+    case ObjectKind::Action:
+    case ObjectKind::Unlinker:
+        return DrawActions;
+    default:
+        return false;
+    }
+}
+
+bool EditorOptions::Load(OptionsStore& store) {
+    const bool stored = store.GetInt(kSection, "OpenLastUsedTemplateOnStart", -1) != -1;
     LoadFlag(store, "OpenLastUsedTemplateOnStart", OpenLastUsedTemplateOnStart);
     LastUsedTemplateName = store.GetString(kSection, "LastUsedTemplateName", LastUsedTemplateName);
     LoadFlag(store, "DrawInputOutputs", DrawInputOutputs);
@@ -22,6 +40,7 @@ void EditorOptions::Load(OptionsStore& store) {
     LoadFlag(store, "DrawChecks", DrawChecks);
     LoadFlag(store, "DrawActions", DrawActions);
     LoadFlag(store, "DrawGeometry", DrawGeometry);
+    return stored;
 }
 
 void EditorOptions::Save(OptionsStore& store) const {

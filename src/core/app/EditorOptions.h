@@ -1,5 +1,6 @@
 #pragma once
 
+#include "objects/EditorObject.h"
 #include "platform/OptionsStore.h"
 
 #include <string>
@@ -20,10 +21,15 @@ struct EditorOptions {
     bool DrawActions = false;
     bool DrawGeometry = false;
 
-    // A missing key keeps the present value, so the defaults hold on a first run.
-    void Load(OptionsStore& store);
+    // A missing key keeps the present value, so the defaults hold on a first
+    // run. False when the store held no options at all: the program's first start.
+    bool Load(OptionsStore& store);
     void Save(OptionsStore& store) const;
     void SetLastUsedTemplateName(const std::string& name) { LastUsedTemplateName = name; }
+
+    // Whether the layer of this kind is drawn. Phases always are; what a
+    // layer hides can be neither hit nor banded.
+    bool IsKindShown(ObjectKind kind) const;
 };
 
 } // namespace lw

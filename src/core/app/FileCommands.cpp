@@ -36,12 +36,13 @@ bool FileCommands::AskToSaveChanges(const char* question) {
     return false;
 }
 
+// A new document starts in the view a canvas starts with.
 void FileCommands::New() {
     if (!AskToSaveChanges(kSaveQuestion))
         return;
     weaver_.ClearDocument();
     weaver_.RefreshTitle();
-    weaver_.Repaint();
+    weaver_.ResetView();
 }
 
 void FileCommands::Open() {
@@ -49,7 +50,28 @@ void FileCommands::Open() {
         return;
     FileRequest request = TemplateRequest("", "scg");
     if (ChooseFileToOpen(request))
-        weaver_.LoadTemplateFile(request.fileName);
+        OpenFitted(request.fileName);
+}
+
+void FileCommands::OpenFitted(const std::string& path) {
+    if (weaver_.LoadTemplateFile(path))
+        weaver_.FitAll();
+}
+
+// A recent file that is gone leaves the list, with a word in the status bar.
+void FileCommands::OpenRecent(std::size_t index) {
+    const std::vector<std::string>& paths = weaver_.recentFiles.Paths();
+    if (index >= paths.size())
+        return;
+    const std::string path = paths[index];
+    if (weaver_.files.KindOf(path) != PathKind::File) {
+        weaver_.recentFiles.Remove(path);
+        if (weaver_.viewHost != nullptr)
+            weaver_.viewHost->ShowStatusText(path + " no longer exists.");
+        return;
+    }
+    if (AskToSaveChanges(kSaveQuestion))
+        OpenFitted(path);
 }
 
 void FileCommands::Save() {
@@ -67,7 +89,10 @@ void FileCommands::SaveAs() {
     weaver_.SaveTemplateFile();
 }
 
+// A gesture under way ends first, so that no half-made object is saved.
 bool FileCommands::ConfirmClose() {
+    if (!weaver_.IsIdle())
+        weaver_.EscapeKey();
     return AskToSaveChanges(kCloseQuestion);
 }
 
@@ -96,11 +121,23 @@ bool FileCommands::RelativeToDataFolder(const std::string& chosenPath,
     return !relative.empty();
 }
 
+// Every template path is relative to the data folder, so a file outside it
+// cannot be taken; the user is told so rather than left wondering.
 bool FileCommands::ChooseFileToOpen(FileRequest& request) {
     std::string chosen;
     if (!dialogs_.ShowOpenDialog(StartFolder(request), request, chosen))
         return false;
-    return RelativeToDataFolder(chosen, request.fileName);
+    return TakeInDataFolder(chosen, request, "opened");
+}
+
+bool FileCommands::TakeInDataFolder(const std::string& chosen, FileRequest& request,
+                                    const char* done) {
+    if (RelativeToDataFolder(chosen, request.fileName))
+        return true;
+    weaver_.prompts.ShowMessage("A template can only be " + std::string(done) +
+                                    " in the data folder, \"" + weaver_.files.BaseFolder() + "\".",
+                                MessageIcon::Stop);
+    return false;
 }
 
 bool FileCommands::ChooseFileToSave(FileRequest& request) {
@@ -111,7 +148,7 @@ bool FileCommands::ChooseFileToSave(FileRequest& request) {
         weaver_.prompts.ShowMessage("This file is Read Only!", MessageIcon::Stop);
         return false;
     }
-    return RelativeToDataFolder(chosen, request.fileName);
+    return TakeInDataFolder(chosen, request, "saved");
 }
 
 } // namespace lw

@@ -2,6 +2,9 @@
 
 #include "platform/FileDialogs.h"
 
+#include <cstddef>
+#include <string>
+
 namespace lw {
 
 class Weaver;
@@ -21,6 +24,8 @@ public:
 
     void New();
     void Open();
+    // Opens the template at this place of the recent files.
+    void OpenRecent(std::size_t index);
     void Save();
     void SaveAs();
 
@@ -35,6 +40,11 @@ public:
 private:
     // Offers to save unsaved changes first: false when the command must stop.
     bool AskToSaveChanges(const char* question);
+    // Opens the template and fits the view to it.
+    void OpenFitted(const std::string& path);
+    // The chosen path relative to the data folder; a path outside it is
+    // refused with a message that says where templates are `done`.
+    bool TakeInDataFolder(const std::string& chosen, FileRequest& request, const char* done);
     std::string StartFolder(const FileRequest& request) const;
     // The chosen path relative to the data folder, or false for one outside it.
     bool RelativeToDataFolder(const std::string& chosenPath, std::string& relative) const;

@@ -6,6 +6,8 @@ namespace lw {
 
 namespace {
 
+const std::string kUntitled = "untitled";
+
 // Until a window gives Weaver its dialogs, every dialog is cancelled.
 class NoPropertyDialogs : public PropertyDialogs {
 public:
@@ -32,8 +34,10 @@ Weaver::~Weaver() {
     ClearDocument();
 }
 
+// A document never saved has no file name to show, and says so.
 std::string Weaver::Title() const {
-    return std::string(kApplicationName) + " - " + fileName + (undoManager.changed ? "*" : "");
+    const std::string& name = fileName.empty() ? kUntitled : fileName;
+    return std::string(kApplicationName) + " - " + name + (undoManager.changed ? "*" : "");
 }
 
 void Weaver::ForgetObject(const EditorObject* object) {

@@ -2,6 +2,7 @@
 
 #include "app/ContextMenu.h"
 #include "app/EditorOptions.h"
+#include "app/RecentFiles.h"
 #include "canvas/CanvasView.h"
 #include "canvas/InteractionState.h"
 #include "catalog/BlocksContainer.h"
@@ -33,8 +34,13 @@ public:
     ~Weaver() override;
 
     // Everything the program does at start once its window exists: the data
-    // folder, the configuration, the catalogues and the options.
+    // folder, the configuration, the catalogues and the options, then the
+    // last used template, fitted.
     void StartUp(const std::string& dataFolderPath);
+    // At the program's very first start, when no options were stored yet,
+    // the editor opens the rich sample, fitted, if the data folder has it.
+    static constexpr const char* kFirstStartTemplate = "scg\\sample_rich.mt";
+    void OpenFirstStartTemplate();
 
     // Reads "scg\Loomwright.ini" from the data folder.
     void ReadConfiguration();
@@ -42,7 +48,9 @@ public:
     // Empties the document and its history; the caller repaints.
     void ClearDocument();
     // Replaces the document by the file's content; a file that does not open
-    // leaves an empty document. False when it did not open.
+    // leaves an empty document. A file that holds lines but no template
+    // record leaves the document as it was. False in both cases.
+    static constexpr const char* kNoTemplateMessage = "This file holds no template.";
     bool LoadTemplateFile(const std::string& path);
     // Writes the document to `fileName`, whole or not at all. False, with the
     // document still changed, when it could not be written.
@@ -51,7 +59,8 @@ public:
     void BuildFromDesc(TemplateDesc& desc);
     void ExportToDesc(TemplateDesc& desc) const;
 
-    // "Loomwright - " with the template's path and a "*" while it has changes.
+    // "Loomwright - " with the template's path ("untitled" for a new one) and
+    // a "*" while it has changes.
     std::string Title() const;
     void RefreshTitle();
     void Repaint();
@@ -60,6 +69,10 @@ public:
     // to the other. Both mark the document as changed and repaint.
     void Undo();
     void Redo();
+
+    // Writes the options and the recent files to the options store, as the
+    // main window does when it closes.
+    void SaveOptions();
 
     // Copies and pastes go through template files (the clipboard is
     // kClipboardPath in the data folder). ExportSelection writes the selected
@@ -98,8 +111,12 @@ public:
     void UpdateBand(int x, int y);
     void EndBand(int x, int y);
     // Picks the link or, failing that, the geometry link nearest the point,
-    // within two pixels.
+    // within six pixels.
     void PickLinkAt(int x, int y);
+    // The link within reach of the point, nearest first; null for none.
+    const Link* LinkNear(int x, int y) const;
+    // Shows the link under the pointer while the canvas is idle.
+    void HoverAt(int x, int y);
     // Deletes the picked link, else the picked geometry link, else the selection.
     void DeleteKey();
     // Leaves a placing or a link gesture.
@@ -115,6 +132,20 @@ public:
     // the canvas covers at `canvasOnScreen`.
     void Zoom(int screenX, int screenY, int delta, const ScreenRect& canvasOnScreen);
 
+    // The view commands. Fitting shows every object drawn, or the selection,
+    // whole in the canvas with a margin; the zoom steps keep the canvas's
+    // centre where it is.
+    void FitAll();
+    void FitSelection();
+    void ZoomIn();
+    void ZoomOut();
+    // Moves the view, at its scale, so that the object is in the middle.
+    void CentreOn(const EditorObject& object);
+    void ResetView();
+    // The canvas has a new size in pixels; a view fitted by Open or at start,
+    // which the user has not moved since, is fitted again.
+    void CanvasResized(int width, int height);
+
     // The creation commands: each makes its object, opens its dialog on it and
     // keeps it, placing it first where that takes a click, or removes it again.
     void AddPhase();
@@ -124,8 +155,9 @@ public:
     void AddUnlinker();
     void AddCheck(std::int32_t checkType);
     void AddRuleAction();
-    // Links the first two selected phases through the link dialog.
-    void AddLink(bool isObjectLink);
+    // Links the first two selected phases through the link dialog, from the
+    // first to the second, or from the second to the first.
+    void AddLink(bool isObjectLink, bool fromSecond = false);
     void DeleteLinksOfPhase();
     // Waits for a click on the phase that the first selected phase's primary
     // or secondary geometry link is to lead to.
@@ -167,6 +199,7 @@ public:
     RuleCatalogue ruleCatalogue;
     UndoManager undoManager;
     EditorOptions options;
+    RecentFiles recentFiles;
     // Path of the open template relative to the data folder; empty for a new one.
     std::string fileName;
     ViewHost* viewHost = nullptr;
@@ -197,8 +230,9 @@ public:
     Case* pendingCase = nullptr;
     Switch* pendingSwitch = nullptr;
     std::string pendingImportPath;
-    // The picked link; a source id of 0 means none.
+    // The picked link, and the one under the pointer; a source id of 0 means none.
     Link selectedLink;
+    Link hoveredLink;
     // The phase whose primary or secondary geometry link is picked; 0 for none.
     std::uint32_t pickedGeometryPhase = 0;
     bool pickedIsPrimary = true;
@@ -210,7 +244,11 @@ private:
     PropertyDialogs& Dialogs();
     void RepaintArea(const ScreenRect& area);
     void EndGesture();
+    void ApplyView(const ViewTransform& view, bool followsFit);
+    void ZoomStep(bool zoomIn);
     void FinishDrag(int x, int y);
+    void CollectDragged();
+    void CancelDrag();
     template <typename Command, typename T> void FinishPlacing(T*& pending, int x, int y);
     void FinishGeometryLink(int x, int y);
     // The first object in list order that the point hits.
@@ -229,8 +267,20 @@ private:
     void EditWithDialog(T& object, OpenDialog openDialog);
 
     template <typename Catalogue> void ReadCatalogue(const std::string& path, Catalogue& catalogue);
+    // The template was opened or saved: it is the last used and the most recent.
+    void NoteTemplateFile(const std::string& path);
+
+    // What the drag under way moves, with where each object stood before it.
+    struct DraggedObject {
+        EditorObject* object;
+        std::int32_t startX;
+        std::int32_t startY;
+    };
+    std::vector<DraggedObject> dragged_;
 
     CanvasView ownView_;
+    bool viewFollowsFit_ = false;
+    bool firstStart_ = false;
     CanvasView* canvasView_ = &ownView_;
     PropertyDialogs* dialogs_ = nullptr;
 };

@@ -67,8 +67,7 @@ ContextMenu Weaver::BuildContextMenu() const {
         menu.push_back({"Add Target Link from " + a + " to " + b, CommandId::AddTargetLink01});
         menu.push_back({"Add Object Link from " + a + " to " + b, CommandId::AddObjectLink01});
         menu.push_back({"Add Target Link from " + b + " to " + a, CommandId::AddTargetLink10});
-        // The fourth entry makes an object link, though its text says otherwise.
-        menu.push_back({"Add Target Link from " + b + " to " + a, CommandId::AddObjectLink10});
+        menu.push_back({"Add Object Link from " + b + " to " + a, CommandId::AddObjectLink10});
     }
     return menu;
 }

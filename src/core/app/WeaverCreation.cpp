@@ -1,6 +1,7 @@
 #include "app/Weaver.h"
 #include "document/TemplateDesc.h"
 #include "operations/Acceptance.h"
+#include "operations/FreeSpot.h"
 #include "undo/UR_AddCommands.h"
 
 #include <memory>
@@ -146,6 +147,7 @@ void Weaver::AddUnlinker() {
     const Phase* preselected = FirstSelectedPhase();
     if (Dialogs().EditUnlinker(*unlinker, preselected != nullptr ? preselected->id : 0) &&
         IsAcceptable(*this, *unlinker)) {
+        MoveToFreeSpot(*this, *FindPhase(unlinker->phaseId), *unlinker);
         undoManager.Push(std::make_unique<UR_AddNewUnlinkerCmd>(this, *unlinker));
     } else {
         RemoveObject(unlinker);
@@ -169,6 +171,7 @@ void Weaver::AddCheck(std::int32_t checkType) {
         return;
     }
     phase->NextCheckPoint(check->posX, check->posY);
+    MoveToFreeSpot(*this, *phase, *check);
     phase->AddCheckId(check->id);
     undoManager.Push(std::make_unique<UR_AddNewCheckCmd>(this, *check));
     Repaint();
@@ -196,6 +199,7 @@ void Weaver::AddRuleAction() {
     const auto count = static_cast<double>(phase->actionIds.size());
     action->posX = TruncateToInt(static_cast<double>(phase->posX) + 400);
     action->posY = TruncateToInt(static_cast<double>(phase->posY) + 40 * count - 150);
+    MoveToFreeSpot(*this, *phase, *action);
     if (Dialogs().EditAction(*action, ActionDialog::General)) {
         phase->AddActionId(action->id);
         undoManager.Push(std::make_unique<UR_AddNewActionCmd>(this, *action));

@@ -13,21 +13,38 @@ void Weaver::ClearDocument() {
 }
 
 bool Weaver::LoadTemplateFile(const std::string& path) {
-    // The document goes first: a file that does not open leaves it empty.
-    ClearDocument();
     auto stream = files.OpenForReading(path);
-    if (stream) {
-        TemplateDesc desc;
-        ReadTemplateDesc(desc, *stream);
-        BuildFromDesc(desc);
-        options.SetLastUsedTemplateName(path);
-        fileName = path;
-    } else {
+    if (!stream) {
+        // A file that does not open leaves the document empty.
+        ClearDocument();
         prompts.ShowMessage("Can't open template file!", MessageIcon::Stop);
+        RefreshTitle();
+        Repaint();
+        return false;
     }
+    TemplateDesc desc;
+    const std::size_t linesWithWords = ReadTemplateDesc(desc, *stream);
+    // A file of another kind would open as an empty template, which a save
+    // would then write over it: the open document stays instead. A file of
+    // empty and comment lines alone is an empty template.
+    if (desc.IsEmpty() && linesWithWords > 0) {
+        prompts.ShowMessage(kNoTemplateMessage, MessageIcon::Stop);
+        return false;
+    }
+    ClearDocument();
+    BuildFromDesc(desc);
+    // The view is the caller's to fit; until then it is no fitted view.
+    viewFollowsFit_ = false;
+    NoteTemplateFile(path);
+    fileName = path;
     RefreshTitle();
     Repaint();
-    return stream != nullptr;
+    return true;
+}
+
+void Weaver::NoteTemplateFile(const std::string& path) {
+    options.SetLastUsedTemplateName(path);
+    recentFiles.Add(path);
 }
 
 bool Weaver::SaveTemplateFile() {
@@ -39,8 +56,8 @@ bool Weaver::SaveTemplateFile() {
         prompts.ShowMessage("Can't save template file!", MessageIcon::Stop);
         return false;
     }
-    undoManager.changed = false;
-    options.SetLastUsedTemplateName(fileName);
+    undoManager.MarkSaved();
+    NoteTemplateFile(fileName);
     RefreshTitle();
     return true;
 }

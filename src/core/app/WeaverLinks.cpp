@@ -6,13 +6,13 @@
 
 namespace lw {
 
-// Both menu entries of a kind come here: the link always runs from the first
-// selected phase to the second, whatever the entry's text said.
-void Weaver::AddLink(bool isObjectLink) {
+// The link runs from the first selected phase to the second, or the other
+// way, as the menu entry that asked for it says.
+void Weaver::AddLink(bool isObjectLink, bool fromSecond) {
     if (selection.members.size() != 2)
         return;
-    const Phase* source = As<Phase>(selection.members[0]);
-    const Phase* destination = As<Phase>(selection.members[1]);
+    const Phase* source = As<Phase>(selection.members[fromSecond ? 1 : 0]);
+    const Phase* destination = As<Phase>(selection.members[fromSecond ? 0 : 1]);
     if (source == nullptr || destination == nullptr)
         return;
     Link link;
@@ -41,7 +41,6 @@ void Weaver::DeleteLinksOfPhase() {
     Repaint();
 }
 
-// Works in any state, so it can take over `pendingPhase` from a placing.
 void Weaver::StartGeometryLink(bool primary) {
     Phase* phase = FirstSelectedPhase();
     if (phase == nullptr)

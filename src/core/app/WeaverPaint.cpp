@@ -9,6 +9,7 @@ void Weaver::PaintScene(DrawingSurface& dc, int viewX, int viewY, float scale) c
     gesture.bandActive = bandActive;
     gesture.bandRect = bandRect;
     gesture.selectedLink = selectedLink;
+    gesture.hoveredLink = hoveredLink;
     gesture.pickedGeometryPhase = pickedGeometryPhase;
     gesture.pickedIsPrimary = pickedIsPrimary;
     gesture.pendingPhase = pendingPhase;

@@ -10,8 +10,9 @@ namespace lw {
 
 namespace {
 
-// Lines are picked within two pixels of the pointer.
-constexpr float kPickTolerance = 2.0f;
+// Lines are picked within six pixels of the pointer at any zoom, so that a
+// thin line is not a game of skill.
+constexpr float kPickTolerance = 6.0f;
 // The distance to a geometry line that a phase does not have.
 constexpr float kNoLine = 50000.0f;
 
@@ -33,26 +34,46 @@ float DistanceToSegment(ScreenPoint p, ScreenPoint a, ScreenPoint b) {
 
 } // namespace
 
+const Link* Weaver::LinkNear(int x, int y) const {
+    if (!options.DrawInputOutputs)
+        return nullptr;
+    const ViewTransform view = CurrentView();
+    const ScreenPoint pointer{x, y};
+    const Link* nearest = nullptr;
+    float best = kPickTolerance;
+    for (const Link& link : links) {
+        const float d =
+            DistanceToSegment(pointer, LinkEnd(link, false, view), LinkEnd(link, true, view));
+        if (d < best) {
+            nearest = &link;
+            best = d;
+        }
+    }
+    return nearest;
+}
+
+// The link under a resting pointer is shown, so that the user sees what a
+// click would pick.
+void Weaver::HoverAt(int x, int y) {
+    const Link* near = IsIdle() ? LinkNear(x, y) : nullptr;
+    const Link hovered = near != nullptr ? *near : Link{};
+    if (hovered == hoveredLink)
+        return;
+    hoveredLink = hovered;
+    Repaint();
+}
+
 // A link between gates wins over a geometry line; among each, the nearest,
 // and of two as near, the first.
 void Weaver::PickLinkAt(int x, int y) {
-    const ViewTransform view = CurrentView();
-    const ScreenPoint pointer{x, y};
-    if (options.DrawInputOutputs && !links.empty()) {
-        float best = kPickTolerance;
-        for (const Link& link : links) {
-            const float d =
-                DistanceToSegment(pointer, LinkEnd(link, false, view), LinkEnd(link, true, view));
-            if (d < best) {
-                selectedLink = link;
-                best = d;
-            }
-        }
-        if (best < kPickTolerance)
-            return;
+    if (const Link* link = LinkNear(x, y)) {
+        selectedLink = *link;
+        return;
     }
     if (!options.DrawGeometry)
         return;
+    const ViewTransform view = CurrentView();
+    const ScreenPoint pointer{x, y};
     const auto lineDistance = [&](const Phase& phase, std::int32_t targetId) {
         const Phase* target = FindPhase(targetId);
         return target != nullptr ? DistanceToSegment(pointer, phase.ConnectionPoint(view),

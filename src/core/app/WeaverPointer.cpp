@@ -1,4 +1,5 @@
 #include "app/Weaver.h"
+#include "canvas/ViewFitting.h"
 #include "undo/UR_AddCommands.h"
 #include "undo/UR_EditPhaseCmd.h"
 #include "undo/UR_MoveObjectsCmd.h"
@@ -6,29 +7,11 @@
 #include <algorithm>
 #include <cstdint>
 #include <memory>
+#include <unordered_set>
 
 namespace lw {
 
 namespace {
-
-// Objects of a layer that an option hides can't be hit or banded; phases
-// always can. The selection itself is no object on the canvas.
-bool IsShown(ObjectKind kind, const EditorOptions& options) {
-    switch (kind) {
-    case ObjectKind::Phase:
-        return true;
-    case ObjectKind::Switch:
-    case ObjectKind::Case:
-        return options.DrawSwitchAndCases;
-    case ObjectKind::Check:
-        return options.DrawChecks;
-    case ObjectKind::Action:
-    case ObjectKind::Unlinker:
-        return options.DrawActions;
-    default:
-        return false;
-    }
-}
 
 bool Contains(const ScreenRect& r, std::int32_t x, std::int32_t y) {
     return x >= r.left && x < r.right && y >= r.top && y < r.bottom;
@@ -47,7 +30,7 @@ std::int32_t WrappingSquare(std::int32_t value) {
 } // namespace
 
 bool Weaver::HitTest(const EditorObject* object, int x, int y, const ViewTransform& view) const {
-    if (object == nullptr || !IsShown(object->GetKind(), options))
+    if (object == nullptr || !options.IsKindShown(object->GetKind()))
         return false;
     const ObjectKind kind = object->GetKind();
     if (kind == ObjectKind::Case || kind == ObjectKind::Switch) {
@@ -126,8 +109,30 @@ void Weaver::BeginDrag(int x, int y) {
     anchorY = view.WorldY(y);
     dragX = anchorX;
     dragY = anchorY;
+    CollectDragged();
     if (viewHost != nullptr)
         viewHost->CapturePointer(true);
+}
+
+// What a drag moves: the selection, and every check, action and unlinker of a
+// selected phase with it, each once, so that nothing is left behind. Where
+// each stood is kept, for Escape to put it back.
+void Weaver::CollectDragged() {
+    dragged_.clear();
+    std::unordered_set<std::int32_t> phaseIds;
+    std::unordered_set<const EditorObject*> taken;
+    for (EditorObject* member : selection.members) {
+        if (member->GetKind() == ObjectKind::Phase)
+            phaseIds.insert(member->id);
+        if (taken.insert(member).second)
+            dragged_.push_back({member, member->posX, member->posY});
+    }
+    for (const auto& item : objects) {
+        EditorObject* object = item.get();
+        const std::int32_t owner = OwnerPhaseId(*object);
+        if (owner != 0 && phaseIds.count(owner) != 0 && taken.insert(object).second)
+            dragged_.push_back({object, object->posX, object->posY});
+    }
 }
 
 void Weaver::PointerMove(int x, int y) {
@@ -142,9 +147,10 @@ void Weaver::PointerMove(int x, int y) {
         const ViewTransform view = CurrentView();
         const std::int32_t worldX = view.WorldX(x);
         const std::int32_t worldY = view.WorldY(y);
-        for (EditorObject* member : selection.members) {
-            member->posX = TruncateToInt(static_cast<double>(member->posX) + worldX - dragX);
-            member->posY = TruncateToInt(static_cast<double>(member->posY) + worldY - dragY);
+        for (const DraggedObject& moved : dragged_) {
+            EditorObject& object = *moved.object;
+            object.posX = TruncateToInt(static_cast<double>(object.posX) + worldX - dragX);
+            object.posY = TruncateToInt(static_cast<double>(object.posY) + worldY - dragY);
         }
         selection.Recalculate();
         dragX = worldX;
@@ -155,6 +161,9 @@ void Weaver::PointerMove(int x, int y) {
     case StatePrimaryLink:
     case StateSecondaryLink:
         Repaint();
+        break;
+    case StateIdle:
+        HoverAt(x, y);
         break;
     default:
         break;
@@ -207,9 +216,26 @@ void Weaver::FinishDrag(int x, int y) {
     const ViewTransform view = CurrentView();
     const std::int32_t deltaX = TruncateToInt(static_cast<double>(view.WorldX(x)) - anchorX);
     const std::int32_t deltaY = TruncateToInt(static_cast<double>(view.WorldY(y)) - anchorY);
+    std::vector<EditorObject*> moved;
+    for (const DraggedObject& dragged : dragged_)
+        moved.push_back(dragged.object);
+    dragged_.clear();
     if (deltaX == 0 && deltaY == 0)
         return;
-    undoManager.Push(std::make_unique<UR_MoveObjectsCmd>(this, deltaX, deltaY, selection.members));
+    undoManager.Push(std::make_unique<UR_MoveObjectsCmd>(this, deltaX, deltaY, moved));
+}
+
+// Everything goes back where it stood, and the drag leaves no command.
+void Weaver::CancelDrag() {
+    for (const DraggedObject& dragged : dragged_) {
+        dragged.object->posX = dragged.startX;
+        dragged.object->posY = dragged.startY;
+    }
+    dragged_.clear();
+    if (viewHost != nullptr)
+        viewHost->CapturePointer(false);
+    EndGesture();
+    selection.Recalculate();
 }
 
 template <typename Command, typename T> void Weaver::FinishPlacing(T*& pending, int x, int y) {
@@ -236,7 +262,7 @@ void Weaver::EndBand(int x, int y) {
     const ScreenRect band =
         SpannedRect(ScreenPoint{view.ScreenX(anchorX), view.ScreenY(anchorY)}, x, y);
     for (const auto& item : objects) {
-        if (!IsShown(item->GetKind(), options))
+        if (!options.IsKindShown(item->GetKind()))
             continue;
         const ScreenPoint anchor = item->ScreenAnchor(view);
         if (Contains(band, anchor.x, anchor.y))
@@ -316,10 +342,13 @@ void Weaver::EscapeKey() {
         // The source phase stays; only the gesture ends.
         pendingPhase = nullptr;
         break;
+    case StateDrag:
+        CancelDrag();
+        break;
     default:
         break;
     }
-    // A drag or a band goes on until its release.
+    // A band goes on until its release.
     if (interactionState >= StatePlacePhase)
         EndGesture();
     Repaint();
@@ -366,6 +395,7 @@ void Weaver::Pan(int dx, int dy) {
                                TruncateToInt(static_cast<float>(dx) / view.scale));
     view.viewY = TruncateToInt(static_cast<double>(view.viewY) +
                                TruncateToInt(static_cast<float>(dy) / view.scale));
+    viewFollowsFit_ = false;
     Repaint();
 }
 
@@ -388,10 +418,11 @@ void Weaver::Zoom(int screenX, int screenY, int delta, const ScreenRect& canvasO
         view.scale = static_cast<float>(view.scale * 1.1);
     else
         view.scale = static_cast<float>(view.scale / 1.1);
-    view.scale = std::clamp(view.scale, 0.01f, 2.0f);
+    view.scale = std::clamp(view.scale, kMinScale, kMaxScale);
     view.viewX = TruncateToInt(TruncateToInt(static_cast<float>(screenX) / view.scale) - worldX);
     view.viewY = TruncateToInt(TruncateToInt(static_cast<float>(screenY) / view.scale) - worldY);
     view.font = CanvasFontAt(view.scale, true);
+    viewFollowsFit_ = false;
     if (interactionState == StateRubberBand)
         UpdateBand(screenX, screenY);
     Repaint();

@@ -72,6 +72,8 @@ void Weaver::EditPhase(Phase& phase) {
         return;
     command->Complete(phase);
     undoManager.Push(std::move(command));
+    // The dialog gave the phase its block's gates anew, all open.
+    RefreshGateMarks();
     Repaint();
 }
 

@@ -7,9 +7,8 @@ namespace lw {
 void Weaver::ReloadBlocks() {
     // No command could take the reload back, so the history goes, and the
     // repaired document is left for the user to look over and save.
-    undoManager.ClearUndoStack();
-    undoManager.ClearRedoStack();
-    undoManager.changed = true;
+    undoManager.ClearHistory();
+    undoManager.MarkChangedForGood();
 
     // The log must be writable before anything is touched: a reload whose
     // changes cannot be told is not made.

@@ -16,9 +16,23 @@ void Weaver::StartUp(const std::string& dataFolderPath) {
     ReadCatalogue(actionsPath, ruleCatalogue);
     blockPool.Load(blockFolders);
     undoManager.ClearHistory();
-    options.Load(optionsStore);
-    if (options.OpenLastUsedTemplateOnStart && !options.LastUsedTemplateName.empty())
-        LoadTemplateFile(options.LastUsedTemplateName);
+    firstStart_ = !options.Load(optionsStore);
+    recentFiles.Load(optionsStore);
+    if (options.OpenLastUsedTemplateOnStart && !options.LastUsedTemplateName.empty() &&
+        LoadTemplateFile(options.LastUsedTemplateName))
+        FitAll();
+}
+
+// A newcomer sees a template at once rather than an empty canvas.
+void Weaver::OpenFirstStartTemplate() {
+    if (firstStart_ && fileName.empty() && files.KindOf(kFirstStartTemplate) == PathKind::File &&
+        LoadTemplateFile(kFirstStartTemplate))
+        FitAll();
+}
+
+void Weaver::SaveOptions() {
+    options.Save(optionsStore);
+    recentFiles.Save(optionsStore);
 }
 
 template <typename Catalogue>

@@ -14,6 +14,8 @@ inline constexpr Pen kThinGreenPen{PenStyle::Solid, 1, {150, 200, 150}};
 inline constexpr Pen kBrightGreenPen{PenStyle::Solid, 2, {10, 255, 10}};
 inline constexpr Pen kThinBluePen{PenStyle::Solid, 1, {0, 0, 255}};
 inline constexpr Pen kThickBluePen{PenStyle::Solid, 3, {0, 0, 255}};
+// The link under a resting pointer.
+inline constexpr Pen kHoverPen{PenStyle::Solid, 3, {255, 170, 60}};
 
 inline constexpr Brush kWhiteBrush{{255, 255, 255}};
 inline constexpr Brush kSelectedBrush{{248, 244, 178}};

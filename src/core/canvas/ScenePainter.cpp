@@ -4,6 +4,8 @@
 #include "canvas/InteractionState.h"
 #include "document/Keywords.h"
 
+#include <algorithm>
+
 namespace lw {
 
 namespace {
@@ -16,6 +18,16 @@ constexpr int kGateStubLength = 150;
 
 // Insets of the phase's texts and of the gate labels, in pixels at any zoom.
 constexpr int kPhaseTextInset = 5;
+
+// Below this scale the canvas font is too small to read, and the scene is a
+// map: phase names keep a readable size, gate labels are left out.
+constexpr float kMapScale = 0.5f;
+// Names are drawn on the map only while a phase's box is this many pixels
+// wide: on smaller boxes they would merely cover each other.
+constexpr int kMapNameMinBoxWidth = 30;
+const CanvasFont kMapNameFont{"Arial", 12, 400};
+// The gap between a case's circle and its name.
+constexpr int kCaseNameGap = 4;
 constexpr int kGateLabelHeight = 20;
 constexpr int kGateLabelInset = 2;
 
@@ -118,7 +130,19 @@ void ScenePainter::PaintPhaseBox(const Phase& phase) const {
     dc_.SelectBrush(store_.selection.Contains(&phase) ? kSelectedBrush
                                                       : PhaseFill(phase.GetColorIndex()));
     dc_.Rectangle(r);
-    dc_.DrawText(phase.name, Shrunk(r, kPhaseTextInset), TextCentre | TextNoClip);
+    if (!IsMap()) {
+        dc_.DrawText(phase.name, Shrunk(r, kPhaseTextInset), TextCentre | TextNoClip);
+    } else if (r.right - r.left >= kMapNameMinBoxWidth) {
+        dc_.SelectFont(kMapNameFont);
+        dc_.DrawText(phase.name, Shrunk(r, kPhaseTextInset), TextCentre | TextNoClip);
+        dc_.SelectFont(CanvasFontAt(view_.scale, true));
+    }
+}
+
+// Views that small are reached only by zooming, so the canvas font is then
+// the one that zoom gives.
+bool ScenePainter::IsMap() const {
+    return view_.scale < kMapScale;
 }
 
 // A stub with the gate's name above it and an arrowhead at its right end for
@@ -143,7 +167,8 @@ void ScenePainter::PaintGates(const Phase& phase, bool isInput) const {
         dc_.Line({x0, y}, {x1, y});
         const ScreenRect label =
             Shrunk(ScreenRect{x0, ClampedSum(y, -kGateLabelHeight), x1, y}, kGateLabelInset);
-        dc_.DrawText(gates[i].name, label, labelFlags);
+        if (!IsMap())
+            dc_.DrawText(gates[i].name, label, labelFlags);
         dc_.Line({ClampedSum(tipX, a), ClampedSum(y, b)}, {tipX, y});
         dc_.Line({ClampedSum(tipX, a), ClampedSum(y, c)}, {tipX, y});
     }
@@ -210,6 +235,12 @@ void ScenePainter::PaintLinks() const {
         dc_.SelectPen(link.isObjectLink ? kDashedGreenPen : kThinBluePen);
         dc_.Line(store_.LinkEnd(link, false, view_), store_.LinkEnd(link, true, view_));
     }
+    const Link& hovered = gesture_.hoveredLink;
+    if (hovered.fromPhaseId != 0 &&
+        std::find(store_.links.begin(), store_.links.end(), hovered) != store_.links.end()) {
+        dc_.SelectPen(kHoverPen);
+        dc_.Line(store_.LinkEnd(hovered, false, view_), store_.LinkEnd(hovered, true, view_));
+    }
     const Link& picked = gesture_.selectedLink;
     if (picked.fromPhaseId != 0) {
         dc_.SelectPen(kBrightGreenPen);
@@ -223,7 +254,14 @@ void ScenePainter::PaintCases() const {
     store_.ForEach<Case>([&](const Case& item) {
         dc_.SelectPen(kThinBlackPen);
         SelectFill(item);
-        dc_.Ellipse(item.GetScreenRect(view_.viewX, view_.viewY, view_.scale));
+        const ScreenRect r = item.GetScreenRect(view_.viewX, view_.viewY, view_.scale);
+        dc_.Ellipse(r);
+        // Its name stands right of the circle, so that a case can be told
+        // from another on the canvas.
+        const ScreenRect nameRect{ClampedSum(r.right, kCaseNameGap), r.top,
+                                  ClampedSum(r.right, kCaseNameGap), r.bottom};
+        dc_.DrawText(item.name, nameRect,
+                     TextLeft | TextVerticalCentre | TextSingleLine | TextNoClip);
         dc_.SelectPen(kThinBluePen);
         for (std::int32_t phaseId : item.phaseIds)
             dc_.Line(item.ScreenAnchor(view_), ConnectionPoint(store_.FindPhase(phaseId)));

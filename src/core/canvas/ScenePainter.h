@@ -18,6 +18,7 @@ struct SceneGesture {
     bool bandActive = false;
     ScreenRect bandRect;
     Link selectedLink;
+    Link hoveredLink;
     std::uint32_t pickedGeometryPhase = 0;
     bool pickedIsPrimary = true;
     const Phase* pendingPhase = nullptr;
@@ -47,6 +48,9 @@ public:
 
 private:
     void PaintPhaseBox(const Phase& phase) const;
+    // Whether the view is zoomed out so far that the canvas font is too small
+    // to read: the scene is then drawn as a map.
+    bool IsMap() const;
     void PaintGates(const Phase& phase, bool isInput) const;
     void PaintGeometry(const Phase& phase) const;
     void PaintPickedGeometryLink() const;

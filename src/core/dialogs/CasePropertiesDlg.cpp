@@ -59,6 +59,8 @@ bool CasePropertiesDlg::Ok(UserPrompts& prompts) {
         return Refuse(prompts, "Case must have at least one phase!");
     if (const std::string* held = MemberOfOtherCase())
         return Refuse(prompts, "Phase \"" + *held + "\" already has connected case!");
+    // The name typed is kept, as the switch dialog keeps its own.
+    caseObject_.name = name;
     WriteMembers();
     return true;
 }

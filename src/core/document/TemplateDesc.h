@@ -117,6 +117,13 @@ struct TemplateDesc {
     std::vector<ActionDesc> actions;
     std::vector<UnlinkDesc> unlinks;
     std::vector<GuiHelperDesc> guiHelpers;
+
+    // No record at all in any of the nine lists.
+    bool IsEmpty() const {
+        return blockSets.empty() && phases.empty() && cases.empty() && switches.empty() &&
+               links.empty() && checks.empty() && actions.empty() && unlinks.empty() &&
+               guiHelpers.empty();
+    }
 };
 
 inline bool operator==(const BlockSetDesc& a, const BlockSetDesc& b) {

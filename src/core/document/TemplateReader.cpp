@@ -308,9 +308,10 @@ const Tag kTags[] = {
 
 // The rule of the line's first word when a second word follows, counted as
 // parseLineIntoWords counts them; a line of fewer words is dropped.
-const Tag* TagOf(const std::string& text) {
+const Tag* TagOf(const std::string& text, bool& holdsWords) {
     std::size_t pos = 0;
-    if (!ParserUtils::skipToWord(text, pos))
+    holdsWords = ParserUtils::skipToWord(text, pos);
+    if (!holdsWords)
         return nullptr;
     const std::string keyword = ParserUtils::getNextWord(text, pos);
     if (!ParserUtils::skipToWord(text, pos))
@@ -327,13 +328,16 @@ const Tag* TagOf(const std::string& text) {
 // The words of most lines are split only once their tag is known to read
 // them: the gui helper and action lines that make up most of a template are
 // cut from their text alone.
-void ReadTemplateDesc(TemplateDesc& desc, std::istream& stream) {
+std::size_t ReadTemplateDesc(TemplateDesc& desc, std::istream& stream) {
     std::string text;
     Words words;
+    std::size_t linesWithWords = 0;
     while (ReadTextLine(stream, text)) {
         if (text.empty() || text[0] == '#')
             continue;
-        const Tag* tag = TagOf(text);
+        bool holdsWords = false;
+        const Tag* tag = TagOf(text, holdsWords);
+        linesWithWords += holdsWords ? 1 : 0;
         if (tag == nullptr)
             continue;
         words.clear();
@@ -341,6 +345,7 @@ void ReadTemplateDesc(TemplateDesc& desc, std::istream& stream) {
             ParserUtils::parseLineIntoWords(words, text);
         tag->read(desc, TemplateLine{text, words});
     }
+    return linesWithWords;
 }
 
 } // namespace lw

@@ -7,6 +7,16 @@
 
 namespace lw {
 
+std::int32_t OwnerPhaseId(const EditorObject& object) {
+    if (const auto* check = As<Check>(&object))
+        return check->phaseId;
+    if (const auto* action = As<Action>(&object))
+        return action->phaseId;
+    if (const auto* unlinker = As<Unlinker>(&object))
+        return unlinker->phaseId;
+    return 0;
+}
+
 namespace {
 
 // Visits the elements of the list, or of the store without one, in order.

@@ -21,6 +21,10 @@ namespace lw {
 // where a lookup is given one it searches that list instead of the store.
 using ObjectList = std::vector<EditorObject*>;
 
+// The id of the phase a check, an action or an unlinker belongs to; 0 for
+// every other object.
+std::int32_t OwnerPhaseId(const EditorObject& object);
+
 // The document: every object in order of creation (the painting and the
 // search order), the links, the selection and the issuing of ids. Objects
 // refer to each other by id, and nothing here keeps those references sound:

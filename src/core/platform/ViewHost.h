@@ -21,6 +21,8 @@ public:
     virtual void CapturePointer(bool /*capture*/) {}
     // Shows this cursor while the pointer is over the canvas.
     virtual void ShowCursor(CanvasCursor cursor) = 0;
+    // Shows a short word in the status bar, such as why a command did nothing.
+    virtual void ShowStatusText(const std::string& /*text*/) {}
     // Hands a text file the program wrote, such as a log, to the user's
     // viewer for text files; false when no program could take it.
     virtual bool OpenTextFile(const std::string& path) = 0;

@@ -55,6 +55,9 @@ void UR_EditPhaseCmd::Undo() {
         RestoreObject(*editor, snapshot);
         phase->AddCheckId(snapshot.object.id);
     }
+    // The gates the edit gave the phase stay; which of them links use is
+    // worked out again, so that no linked gate shows as open.
+    editor->RefreshGateMarks();
 }
 
 void UR_EditPhaseCmd::Redo() {
@@ -66,6 +69,7 @@ void UR_EditPhaseCmd::Redo() {
         phase->RemoveCheckId(snapshot.object.id);
         RemoveObjectById(*editor, snapshot.object.id);
     }
+    editor->RefreshGateMarks();
 }
 
 } // namespace lw

@@ -20,15 +20,37 @@ UndoManager::~UndoManager() {
 }
 
 void UndoManager::Push(std::unique_ptr<UR_Command> command) {
-    changed = true;
-    if (editor != nullptr)
-        editor->RefreshTitle();
-    if (!command)
+    if (!command) {
+        // A change was made that no command can take back.
+        MarkChangedForGood();
         return;
+    }
+    // The saved state on the redo branch is lost with it.
+    if (savedState_ && *savedState_ > StateNumber())
+        savedState_.reset();
     ClearRedoStack();
     undoStack.push_back(std::move(command));
-    while (undoStack.size() > kUndoLimit)
+    while (undoStack.size() > kUndoLimit) {
         undoStack.pop_front();
+        ++dropped_;
+    }
+    UpdateChanged();
+}
+
+void UndoManager::UpdateChanged() {
+    changed = !savedState_ || *savedState_ != StateNumber();
+    if (editor != nullptr)
+        editor->RefreshTitle();
+}
+
+void UndoManager::MarkSaved() {
+    savedState_ = StateNumber();
+    changed = false;
+}
+
+void UndoManager::MarkChangedForGood() {
+    savedState_.reset();
+    UpdateChanged();
 }
 
 namespace {
@@ -36,27 +58,27 @@ namespace {
 // Takes the newest command of one stack back or makes it again, and moves it
 // to the other. Either way the document now differs from the saved file.
 template <typename Step>
-void MoveNewest(UndoManager& history, std::deque<std::unique_ptr<UR_Command>>& from,
+bool MoveNewest(std::deque<std::unique_ptr<UR_Command>>& from,
                 std::deque<std::unique_ptr<UR_Command>>& to, Step step) {
     if (from.empty())
-        return;
-    history.changed = true;
-    if (history.editor != nullptr)
-        history.editor->RefreshTitle();
+        return false;
     step(*from.back());
     to.push_back(std::move(from.back()));
     from.pop_back();
+    return true;
 }
 
 } // namespace
 
 void UndoManager::UndoNewest() {
-    MoveNewest(*this, undoStack, redoStack, [](UR_Command& command) { command.Undo(); });
+    if (MoveNewest(undoStack, redoStack, [](UR_Command& command) { command.Undo(); }))
+        UpdateChanged();
 }
 
 void UndoManager::RedoNewest() {
     // The limit applies to pushes only: what was undone may all come back.
-    MoveNewest(*this, redoStack, undoStack, [](UR_Command& command) { command.Redo(); });
+    if (MoveNewest(redoStack, undoStack, [](UR_Command& command) { command.Redo(); }))
+        UpdateChanged();
 }
 
 void UndoManager::ClearUndoStack() {
@@ -70,7 +92,8 @@ void UndoManager::ClearRedoStack() {
 void UndoManager::ClearHistory() {
     ClearUndoStack();
     ClearRedoStack();
-    changed = false;
+    dropped_ = 0;
+    MarkSaved();
 }
 
 } // namespace lw

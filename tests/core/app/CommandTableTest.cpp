@@ -30,10 +30,10 @@ TEST(CommandTableTest, MenusKeepTheirOddSeparatorsAndTexts) {
     EXPECT_EQ(Menu("&Edit").entries[7].text, "Reload Blocks \"on the fly\"");
 }
 
-TEST(CommandTableTest, ToolbarHasEighteenButtonsInFiveGroupsPlusAbout) {
+TEST(CommandTableTest, ToolbarHasTwentyTwoButtonsInSixGroupsPlusAbout) {
     const auto& buttons = ToolbarButtons();
-    EXPECT_EQ(std::count(buttons.begin(), buttons.end(), std::nullopt), 5);
-    EXPECT_EQ(buttons.size(), 23u);
+    EXPECT_EQ(std::count(buttons.begin(), buttons.end(), std::nullopt), 6);
+    EXPECT_EQ(buttons.size(), 28u);
     EXPECT_EQ(buttons.front(), CommandId::FileNew);
     EXPECT_EQ(buttons.back(), CommandId::AppAbout);
     for (const auto& button : buttons) {

@@ -104,7 +104,9 @@ TEST_F(ContextMenuTest, TheGenerationTypeDecidesWhichGeometryLinksCanBeDrawn) {
     }
 }
 
-TEST_F(ContextMenuTest, TwoPhasesGetFourLinkEntriesThatAllLinkTheFirstToTheSecond) {
+// Each entry makes the link it names, in the direction it names: a designer
+// who chose "from Bravo to Alpha" must not get a link the other way.
+TEST_F(ContextMenuTest, TwoPhasesGetFourLinkEntriesThatEachDoWhatTheyName) {
     Phase* a = PhaseAt("Alpha", 0, 0);
     Phase* b = PhaseAt("Bravo", 400, 0);
     Select(a);
@@ -113,29 +115,36 @@ TEST_F(ContextMenuTest, TwoPhasesGetFourLinkEntriesThatAllLinkTheFirstToTheSecon
     EXPECT_EQ(MenuTexts(),
               Join(kFixedEntries,
                    {"Add Target Link from Alpha to Bravo", "Add Object Link from Alpha to Bravo",
-                    "Add Target Link from Bravo to Alpha", "Add Target Link from Bravo to Alpha"}));
+                    "Add Target Link from Bravo to Alpha", "Add Object Link from Bravo to Alpha"}));
     ASSERT_EQ(menu.size(), 9u);
 
-    // The third and fourth read alike; one makes a target link, the other an
-    // object link, and both run from the first selected phase.
-    const std::vector<std::pair<CommandId, bool>> expected{
-        {CommandId::AddTargetLink01, false},
-        {CommandId::AddObjectLink01, true},
-        {CommandId::AddTargetLink10, false},
-        {CommandId::AddObjectLink10, true},
+    struct Expected {
+        CommandId command;
+        bool isObjectLink;
+        const Phase* from;
+        const Phase* to;
+    };
+    const std::vector<Expected> expected{
+        {CommandId::AddTargetLink01, false, a, b},
+        {CommandId::AddObjectLink01, true, a, b},
+        {CommandId::AddTargetLink10, false, b, a},
+        {CommandId::AddObjectLink10, true, b, a},
     };
     for (std::size_t i = 0; i < expected.size(); ++i) {
-        ASSERT_EQ(menu[5 + i].command, expected[i].first);
+        ASSERT_EQ(menu[5 + i].command, expected[i].command);
         Link offered;
         dialogs.QueueOutcome(false, [&](DialogCall& call) { offered = *call.link; });
         EXPECT_TRUE(commands.Run(*menu[5 + i].command));
-        EXPECT_EQ(offered.isObjectLink, expected[i].second) << i;
-        EXPECT_EQ(offered.fromPhaseId, a->id) << i;
-        EXPECT_EQ(offered.toPhaseId, b->id) << i;
+        EXPECT_EQ(offered.isObjectLink, expected[i].isObjectLink) << i;
+        EXPECT_EQ(offered.fromPhaseId, expected[i].from->id) << i;
+        EXPECT_EQ(offered.toPhaseId, expected[i].to->id) << i;
     }
 }
 
-TEST_F(EnableRulesTest, WhilePlacingAPhaseOnlyTheHistoryAndTheCanvasCommandsStayEnabled) {
+// While a phase waits to be placed, only Escape, the view commands and the
+// placing click are taken: anything else could leave the half-made phase
+// behind, or save it.
+TEST_F(EnableRulesTest, WhilePlacingAPhaseOnlyTheViewCommandsStayEnabled) {
     Phase* phase = PhaseAt("A", 0, 0);
     Select(phase);
     commands.Run(CommandId::AddFreeCheck);
@@ -149,26 +158,30 @@ TEST_F(EnableRulesTest, WhilePlacingAPhaseOnlyTheHistoryAndTheCanvasCommandsStay
     Phase* placing = weaver.pendingPhase;
 
     for (CommandId idleOnly :
-         {CommandId::FileNew, CommandId::FileOpen, CommandId::FileSave, CommandId::FileSaveAs,
-          CommandId::EditCut, CommandId::EditCopy, CommandId::EditPaste, CommandId::PasteAtPointer,
-          CommandId::ReloadBlocks, CommandId::SaveSelection, CommandId::ImportTemplate,
-          CommandId::AddPhase, CommandId::AddUnlinker, CommandId::AddCase, CommandId::AddSwitch})
+         {CommandId::FileNew,        CommandId::FileOpen,         CommandId::FileSave,
+          CommandId::FileSaveAs,     CommandId::EditCut,          CommandId::EditCopy,
+          CommandId::EditPaste,      CommandId::PasteAtPointer,   CommandId::ReloadBlocks,
+          CommandId::SaveSelection,  CommandId::ImportTemplate,   CommandId::AddPhase,
+          CommandId::AddUnlinker,    CommandId::AddCase,          CommandId::AddSwitch,
+          CommandId::EditUndo,       CommandId::EditRedo,         CommandId::AddRule,
+          CommandId::AddFreeCheck,   CommandId::AddTargetLink01,  CommandId::DeleteLinks,
+          CommandId::AddPrimaryLink, CommandId::AddSecondaryLink, CommandId::FindNext,
+          CommandId::RecentFile1})
         EXPECT_FALSE(commands.IsEnabled(idleOnly)) << CommandName(idleOnly);
-    for (CommandId always : {CommandId::EditUndo, CommandId::EditRedo, CommandId::DrawChecks,
-                             CommandId::AddRule, CommandId::AddPrimaryLink})
-        EXPECT_TRUE(commands.IsEnabled(always)) << CommandName(always);
+    for (CommandId looking : {CommandId::DrawChecks, CommandId::ViewZoomFit, CommandId::ViewZoomIn,
+                              CommandId::ViewZoomOut})
+        EXPECT_TRUE(commands.IsEnabled(looking)) << CommandName(looking);
 
-    // A disabled command does not run.
+    // A disabled command does not run: Shift+T does not take the phase over,
+    // and no undo takes away what the placing stands on.
     const std::size_t opened = dialogs.Log().size();
     EXPECT_FALSE(commands.Run(CommandId::AddCase));
+    EXPECT_FALSE(commands.Run(CommandId::AddPrimaryLink));
+    EXPECT_FALSE(commands.Run(CommandId::EditUndo));
     EXPECT_EQ(dialogs.Log().size(), opened);
-
-    // Undo works on the history and leaves the phase being placed alone.
-    EXPECT_TRUE(commands.Run(CommandId::EditUndo));
-    EXPECT_TRUE(phase->checkIds.empty());
+    EXPECT_EQ(phase->checkIds.size(), 1u);
     EXPECT_EQ(weaver.pendingPhase, placing);
     EXPECT_EQ(weaver.interactionState, StatePlacePhase);
-    EXPECT_FALSE(commands.IsEnabled(CommandId::EditUndo));
 }
 
 TEST_F(EnableRulesTest, SaveNeedsAChangeAndCutAndCopyNeedASelection) {

@@ -467,3 +467,73 @@ TEST_F(CreationCommandsTest, OnlyEditsThatPassTheLaunchersChecksBecomeCommands) 
     weaver.EditObjectProperties(CaseAt("K", 0, 0));
     EXPECT_EQ(Commands(), 2u);
 }
+
+// A new object never lands hidden under a gate label or another object of
+// its phase: it takes the free spot nearest to where it would have stood.
+TEST_F(CreationCommandsTest, NewChecksActionsAndUnlinkersLandClear) {
+    Phase* phase = PhaseAt("P", 100, 200);
+    Select(phase);
+    const auto overlap = [](const EditorObject& a, const ScreenRect& b) {
+        const ScreenRect r = a.GetScreenRect(0, 0, 1.0f);
+        return r.left < b.right && b.left < r.right && r.top < b.bottom && b.top < r.bottom;
+    };
+    // The label of the output gate at y 275 runs from x 302 to 448.
+    const ScreenRect outputLabel{302, 257, 448, 273};
+    for (int i = 0; i < 5; ++i)
+        ActionOf(*phase, "Pilot", "Property" + std::to_string(i));
+    // The sixth action would stand at (500, 250), over the label.
+    dialogs.QueueOutcome(true, Typed("Ammo"));
+    dialogs.QueueOutcome(true);
+    weaver.AddRuleAction();
+    const Action& ammo = *As<Action>(weaver.objects.back().get());
+    EXPECT_FALSE(overlap(ammo, outputLabel));
+    EXPECT_EQ(ammo.posX, 500);
+    EXPECT_LE(std::abs(ammo.posY - 250), 30);
+
+    // The first check would stand at (166, 372), where an action already is.
+    Action* inTheWay = ActionOf(*phase, "Pilot", "Skin");
+    inTheWay->posX = 166;
+    inTheWay->posY = 372;
+    weaver.AddCheck(CheckFree);
+    const Check& check = *As<Check>(weaver.objects.back().get());
+    EXPECT_FALSE(overlap(check, inTheWay->GetScreenRect(0, 0, 1.0f)));
+    EXPECT_LE(std::abs(check.posY - 372) + std::abs(check.posX - 166), 60);
+
+    // The unlinker would stand at (100, 50), where an action already is.
+    Action* above = ActionOf(*phase, "Pilot", "Country");
+    above->posX = 100;
+    above->posY = 50;
+    dialogs.QueueOutcome(true, [&](DialogCall& call) {
+        Unlinker& unlinker = *As<Unlinker>(call.object);
+        unlinker.phaseId = phase->id;
+        unlinker.posX = 100;
+        unlinker.posY = 50;
+        unlinker.inputGates = {"in"};
+    });
+    weaver.AddUnlinker();
+    const Unlinker& unlinker = *As<Unlinker>(weaver.objects.back().get());
+    EXPECT_FALSE(overlap(unlinker, above->GetScreenRect(0, 0, 1.0f)));
+}
+
+// A phase dialog gives the phase its block's gates anew, all open; the links
+// must then close those they use again, also after an undo or a redo.
+TEST_F(CreationCommandsTest, APhaseEditKeepsItsLinkedGatesMarkedAsUsed) {
+    Phase* a = PhaseAt("A", 0, 0);
+    Phase* b = PhaseAt("B", 500, 0);
+    weaver.links.push_back(Link{false, a->id, "out", b->id, "in"});
+    weaver.RefreshGateMarks();
+    const auto reopenGates = [](DialogCall& call) {
+        Phase& phase = *As<Phase>(call.object);
+        phase.inputs = {GateSlot{"in"}};
+        phase.outputs = {GateSlot{"out"}};
+    };
+    dialogs.QueueOutcome(true, reopenGates);
+    weaver.EditObjectProperties(a);
+    EXPECT_FALSE(a->outputs[0].openMark);
+    a->outputs[0].openMark = true;
+    weaver.Undo();
+    EXPECT_FALSE(a->outputs[0].openMark);
+    a->outputs[0].openMark = true;
+    weaver.Redo();
+    EXPECT_FALSE(a->outputs[0].openMark);
+}

@@ -67,7 +67,8 @@ TEST_F(FileCommandsTest, AMissingLastTemplateLeavesAnEmptyDocument) {
     StartUp();
     EXPECT_EQ(prompts.MessageTexts(), std::vector<std::string>{"Can't open template file!"});
     EXPECT_TRUE(weaver.fileName.empty());
-    EXPECT_EQ(host.title, "Loomwright - ");
+    // A caption that ends in " - " reads as if something were missing.
+    EXPECT_EQ(host.title, "Loomwright - untitled");
 }
 
 TEST_F(FileCommandsTest, LoadThenSaveWritesTheFileAsItWas) {
@@ -116,6 +117,8 @@ TEST_F(FileCommandsTest, SaveOfANewDocumentOffersDefaultInTheDataFolder) {
     EXPECT_NE(Bytes(kData + "/scg/mine.mt"), "<missing>");
 }
 
+// A file outside the data folder cannot be taken, and the user is told why
+// instead of seeing the command do nothing.
 TEST_F(FileCommandsTest, ChoosingRefusesFilesOutsideTheDataFolderAndReadOnlyFiles) {
     StartUp();
     FileRequest request{"", FileCommands::kTemplateFilter, "scg", "*.mt"};
@@ -125,7 +128,10 @@ TEST_F(FileCommandsTest, ChoosingRefusesFilesOutsideTheDataFolderAndReadOnlyFile
     EXPECT_TRUE(commands.ChooseFileToOpen(request));
     EXPECT_EQ(request.fileName, "scg\\sample_rich.mt");
     EXPECT_EQ(dialogs.startFolders[0], kData + "/scg");
-    EXPECT_TRUE(prompts.Log().empty());
+    const std::string outside =
+        "A template can only be opened in the data folder, \"" + kData + "\".";
+    EXPECT_EQ(prompts.MessageTexts(), (std::vector<std::string>{outside, outside}));
+    prompts = RecordingPrompts();
 
     disk.MakeReadOnly(kData + "/scg/sample_rich.mt");
     dialogs.answers = {kData + "/scg/sample_rich.mt"};
@@ -156,7 +162,7 @@ TEST_F(FileCommandsTest, NewAsksAboutChangesAndHonoursEachAnswer) {
     EXPECT_TRUE(weaver.objects.empty());
     EXPECT_TRUE(weaver.fileName.empty());
     EXPECT_EQ(weaver.nextId, 1);
-    EXPECT_EQ(host.title, "Loomwright - ");
+    EXPECT_EQ(host.title, "Loomwright - untitled");
 
     // Without changes nothing is asked.
     commands.New();

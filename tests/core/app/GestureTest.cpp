@@ -1,9 +1,11 @@
 #include "GestureFixture.h"
+#include "canvas/RecordingSurface.h"
 #include "document/TemplateDesc.h"
 #include "undo/UR_DeleteLinksCmd.h"
 #include "undo/UR_EditPhaseCmd.h"
 #include "undo/UR_MoveObjectsCmd.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace lw;
@@ -62,6 +64,38 @@ TEST_F(GestureTest, OnePressSelectsEveryObjectUnderItAndOneDragMovesThemAsOneCom
     weaver.Undo();
     EXPECT_EQ(At(a), (Point{0, 0}));
     EXPECT_EQ(At(b), (Point{100, 50}));
+}
+
+// A dragged phase takes its checks, actions and unlinker along in the same
+// one move, instead of leaving them behind to be dragged one by one.
+TEST_F(GestureTest, AttachedObjectsFollowTheirPhaseInOneMove) {
+    Phase* a = PhaseAt("A", 0, 0);
+    Check* check = CheckOf(*a, CheckFree, 66, 172);
+    Action* action = ActionOf(*a, "", "Rule");
+    action->posX = 400;
+    action->posY = -150;
+    Unlinker* unlinker = weaver.NewUnlinker();
+    unlinker->phaseId = a->id;
+    Action* othersAction = ActionOf(*PhaseAt("Other", 1000, 1000), "", "Rule");
+
+    // The check is selected too, and still moves once.
+    Select(a);
+    Select(check);
+    input.LeftDown(50, 50, kLeftButton);
+    input.Move(80, 70, kLeftButton);
+    input.LeftUp(80, 70, 0);
+    EXPECT_EQ(At(a), (Point{30, 20}));
+    EXPECT_EQ(At(check), (Point{96, 192}));
+    EXPECT_EQ(At(action), (Point{430, -130}));
+    EXPECT_EQ(At(unlinker), (Point{30, 20}));
+    EXPECT_EQ(At(othersAction), (Point{0, 0}));
+    EXPECT_EQ(Commands(), 1u);
+
+    weaver.Undo();
+    EXPECT_EQ(At(check), (Point{66, 172}));
+    EXPECT_EQ(At(unlinker), (Point{0, 0}));
+    weaver.Redo();
+    EXPECT_EQ(At(action), (Point{430, -130}));
 }
 
 TEST_F(GestureTest, AClickOrADragBackToItsStartSelectsButRecordsNoMove) {
@@ -223,25 +257,26 @@ TEST_F(GestureTest, DeleteTakesThePickedLinkThenThePickedGeometryLineThenTheSele
     EXPECT_EQ(weaver.links.size(), 1u);
 }
 
-TEST_F(GestureTest, LinesArePickedWithinTwoPixelsAndPastTheirEndsByTheDistanceToTheEnd) {
+// A line is hit within six pixels, so that a thin link is no game of skill.
+TEST_F(GestureTest, LinesArePickedWithinSixPixelsAndPastTheirEndsByTheDistanceToTheEnd) {
     weaver.options.DrawInputOutputs = true;
     weaver.options.DrawGeometry = true;
     // A slanted link from (350, 75) to (450, 375).
     Phase* a = PhaseAt("A", 0, 0);
     AddLink(*a, *PhaseAt("C", 600, 300));
-    EXPECT_EQ(PickedLinkSource(402, 225), a->id); // 6 / sqrt(10), about 1.9 pixels
-    EXPECT_EQ(PickedLinkSource(403, 227), 0);     // 7 / sqrt(10), about 2.2 pixels
+    EXPECT_EQ(PickedLinkSource(406, 225), a->id); // 18 / sqrt(10), about 5.7 pixels
+    EXPECT_EQ(PickedLinkSource(407, 225), 0);     // 21 / sqrt(10), about 6.6 pixels
 
     // A level link from (350, 1075) to (650, 1075); past an end, the
     // distance is the one to the end, not to the line drawn on.
     Phase* d = PhaseAt("D", 0, 1000);
     AddLink(*d, *PhaseAt("E", 800, 1000));
-    EXPECT_EQ(PickedLinkSource(500, 1076), d->id);
-    EXPECT_EQ(PickedLinkSource(500, 1077), 0);
-    EXPECT_EQ(PickedLinkSource(651, 1075), d->id);
-    EXPECT_EQ(PickedLinkSource(652, 1075), 0);
-    EXPECT_EQ(PickedLinkSource(349, 1075), d->id);
-    EXPECT_EQ(PickedLinkSource(348, 1075), 0);
+    EXPECT_EQ(PickedLinkSource(500, 1080), d->id);
+    EXPECT_EQ(PickedLinkSource(500, 1081), 0);
+    EXPECT_EQ(PickedLinkSource(655, 1075), d->id);
+    EXPECT_EQ(PickedLinkSource(656, 1075), 0);
+    EXPECT_EQ(PickedLinkSource(345, 1075), d->id);
+    EXPECT_EQ(PickedLinkSource(344, 1075), 0);
     // A link wins over a geometry line as near: Q's starts at (500, 1075).
     Phase* q = PhaseAt("Q", 434, 1025);
     q->primaryLinkId = PhaseAt("R", 500, 1500)->id;
@@ -254,8 +289,8 @@ TEST_F(GestureTest, LinesArePickedWithinTwoPixelsAndPastTheirEndsByTheDistanceTo
     g->generationType = GenerationServerSetPos;
     g->primaryLinkId = PhaseAt("H", 1000, 2050)->id; // (66, 2050) to (1000, 2050)
     g->secondaryLinkId = PhaseAt("J", 66, 2600)->id; // (66, 2050) to (66, 2600)
-    EXPECT_EQ(PickedGeometryPhase(500, 2052), 0);
-    EXPECT_EQ(PickedGeometryPhase(500, 2051), g->id);
+    EXPECT_EQ(PickedGeometryPhase(500, 2056), 0);
+    EXPECT_EQ(PickedGeometryPhase(500, 2055), g->id);
     EXPECT_TRUE(weaver.pickedIsPrimary);
     EXPECT_EQ(PickedGeometryPhase(67, 2300), g->id);
     EXPECT_FALSE(weaver.pickedIsPrimary);
@@ -266,7 +301,7 @@ TEST_F(GestureTest, LinesArePickedWithinTwoPixelsAndPastTheirEndsByTheDistanceTo
     EXPECT_EQ(PickedGeometryPhase(500, 2050), 0);
 }
 
-TEST_F(GestureTest, EscapeEndsPlacingsAndLinkGesturesButNotDragsOrBands) {
+TEST_F(GestureTest, EscapeEndsPlacingsLinkGesturesAndDragsButNotBands) {
     dialogs.QueueOutcome(true, [](DialogCall& call) {
         As<Phase>(call.object)->blocks["main"] = "scg\\0\\blocks\\air\\patrol.group";
     });
@@ -296,10 +331,16 @@ TEST_F(GestureTest, EscapeEndsPlacingsAndLinkGesturesButNotDragsOrBands) {
     EXPECT_EQ(weaver.interactionState, StateIdle);
     EXPECT_EQ(Commands(), 0u);
 
+    // A drag taken back with Escape puts the phase where it stood and
+    // leaves no command: a slip of the hand costs nothing.
     input.LeftDown(50, 50, kLeftButton);
+    input.Move(150, 90, kLeftButton);
     input.Key(CanvasKey::Escape);
-    EXPECT_EQ(weaver.interactionState, StateDrag);
-    input.LeftUp(50, 50, 0);
+    EXPECT_EQ(weaver.interactionState, StateIdle);
+    EXPECT_EQ(source->posX, 0);
+    EXPECT_EQ(source->posY, 0);
+    input.LeftUp(150, 90, 0);
+    EXPECT_EQ(Commands(), 0u);
     input.LeftDown(600, 600, kLeftButton);
     input.Key(CanvasKey::Escape);
     EXPECT_EQ(weaver.interactionState, StateRubberBand);
@@ -413,4 +454,26 @@ TEST_F(GestureTest, AHandDrawnLinkSkipsTheSourceTheEmptyCanvasAndTheOtherLinksTa
     weaver.Undo();
     EXPECT_EQ(source->primaryLinkId, 0);
     EXPECT_EQ(source->secondaryLinkId, x);
+}
+
+// The link under a resting pointer is shown, so that the user sees what a
+// click would pick; it is drawn with its own pen over the others.
+TEST_F(GestureTest, TheLinkUnderTheRestingPointerIsHighlighted) {
+    weaver.options.DrawInputOutputs = true;
+    Phase* a = PhaseAt("A", 0, 1000);
+    AddLink(*a, *PhaseAt("B", 800, 1000)); // from (350, 1075) to (650, 1075)
+    const int repaints = e.host.repaints;
+    input.Move(500, 1080, 0);
+    EXPECT_EQ(weaver.hoveredLink.fromPhaseId, a->id);
+    EXPECT_EQ(e.host.repaints, repaints + 1);
+    RecordingSurface dc;
+    weaver.PaintScene(dc, 0, 0, 1.0f);
+    EXPECT_NE(std::find(dc.calls.begin(), dc.calls.end(), "pen solid 3 255,170,60"),
+              dc.calls.end());
+    input.Move(500, 1081, 0);
+    EXPECT_EQ(weaver.hoveredLink.fromPhaseId, 0);
+    // Nothing is highlighted while a gesture is under way.
+    input.LeftDown(500, 500, kLeftButton);
+    input.Move(500, 1080, kLeftButton);
+    EXPECT_EQ(weaver.hoveredLink.fromPhaseId, 0);
 }

@@ -80,24 +80,18 @@ TEST_F(UndoManagerTest, ClearingDestroysNewestFirst) {
 }
 
 TEST_F(UndoManagerTest, TitleShowsTheFileAndTheChangedMark) {
-    EXPECT_EQ(weaver.Title(), "Loomwright - ");
+    EXPECT_EQ(weaver.Title(), "Loomwright - untitled");
     weaver.fileName = "scg\\x.mt";
     history.changed = true;
     EXPECT_EQ(weaver.Title(), "Loomwright - scg\\x.mt*");
 }
 
-TEST_F(UndoManagerTest, UndoAndRedoMoveTheNewestAcrossAndMarkTheDocument) {
-    test::RecordingViewHost host;
-    weaver.SetViewHost(&host);
+TEST_F(UndoManagerTest, UndoAndRedoMoveTheNewestAcross) {
     for (int i = 1; i <= 100; ++i)
         history.Push(Command(i));
     auto* newest = static_cast<LoggingCommand*>(history.undoStack.back().get());
-    // As after a save: undoing back to the saved state still counts as a change.
-    history.changed = false;
     weaver.Undo();
     EXPECT_EQ(newest->undone, 1);
-    EXPECT_TRUE(history.changed);
-    EXPECT_EQ(host.title.back(), '*');
     ASSERT_EQ(history.redoStack.size(), 1u);
     EXPECT_EQ(history.redoStack.back().get(), newest);
 
@@ -108,12 +102,39 @@ TEST_F(UndoManagerTest, UndoAndRedoMoveTheNewestAcrossAndMarkTheDocument) {
     weaver.Redo();
     EXPECT_EQ(history.undoStack.size(), 100u);
     EXPECT_TRUE(history.redoStack.empty());
+}
+
+// Coming back to the saved state clears the "*" and leaving it sets it, so
+// the caption tells truthfully whether the file differs from the document.
+TEST_F(UndoManagerTest, UndoAndRedoRememberTheSavedState) {
+    test::RecordingViewHost host;
+    weaver.SetViewHost(&host);
+    history.Push(Command(1));
+    history.Push(Command(2));
+    history.MarkSaved();
+    weaver.Undo();
+    EXPECT_TRUE(history.changed);
+    EXPECT_EQ(host.title.back(), '*');
+    weaver.Redo();
+    EXPECT_FALSE(history.changed);
+    EXPECT_NE(host.title.back(), '*');
+
+    // A new change on top of an undo loses the saved state for good.
+    weaver.Undo();
+    history.Push(Command(3));
+    weaver.Undo();
+    EXPECT_TRUE(history.changed);
+
+    // The state before the oldest dropped command cannot come back either.
+    history.ClearHistory();
+    for (int i = 1; i <= 101; ++i)
+        history.Push(Command(i));
+    while (!history.undoStack.empty())
+        weaver.Undo();
+    EXPECT_TRUE(history.changed);
 
     // Nothing to undo: only the repaint.
-    history.ClearUndoStack();
-    history.changed = false;
     const int repaints = host.repaints;
     weaver.Undo();
-    EXPECT_FALSE(history.changed);
     EXPECT_EQ(host.repaints, repaints + 1);
 }

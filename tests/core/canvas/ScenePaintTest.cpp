@@ -219,8 +219,11 @@ TEST_F(ScenePaintTest, CasesSwitchesChecksActionsAndUnlinkersLeadToTheirPhase) {
     unlinker->phaseId = 999;
     const Calls calls = Paint();
 
-    // An unknown phase sends its line to the corner; an unknown case draws nothing.
+    // An unknown phase sends its line to the corner; an unknown case draws
+    // nothing. A case's name stands right of its circle, so that one case can
+    // be told from another.
     EXPECT_TRUE(HasRun(calls, {"pen solid 1 0,0,0", "brush 255,255,255", "ellipse -340,-40,-260,40",
+                               "text \"case_2\" -256,-40,-256,40 vcentre singleline noclip",
                                "pen solid 1 0,0,255", "line -300,0 66,50", "line -300,0 0,0"}))
         << Listing(calls);
     EXPECT_TRUE(
@@ -327,20 +330,37 @@ TEST_F(ScenePaintTest, EachOptionHidesItsLayersAndUnlinkersGoWithActions) {
     EXPECT_EQ(Paint().size(), phases * 4) << "each phase alone: pen, brush, box and name";
 }
 
-TEST_F(ScenePaintTest, CanvasTakesItsFontAndFrameFirstAndLabelsShrinkToDotsWhenZoomedOut) {
+// Zoomed out so far that the canvas font cannot be read, the scene is a map
+// rather than grey: phase names keep a readable size while their boxes can
+// hold them, and gate labels are left out.
+TEST_F(ScenePaintTest, CanvasTakesItsFontAndFrameFirstAndZoomedOutTheSceneIsAMap) {
     EXPECT_EQ(CanvasFontAt(1.0f, false), (CanvasFont{"Arial", 12, 400}));
     EXPECT_EQ(CanvasFontAt(1.0f, true).height, 14);
     EXPECT_EQ(CanvasFontAt(0.5f, true).height, 7);
     EXPECT_EQ(CanvasFontAt(0.09f, true).height, 1);
 
     ShowLayers(false);
-    AddPhase(0, 0)->name = "Tiny";
-    RecordingSurface dc;
-    const float scale = 0.05f;
-    PaintCanvas(dc, weaver, 640, 480, ViewTransform{0, 0, scale}, CanvasFontAt(scale, true));
-    EXPECT_THAT(dc.calls, ElementsAre("font Arial 1 400", "rectangle 0,0,640,480",
-                                      "pen solid 1 0,0,0", "brush 255,255,255",
-                                      "rectangle 0,0,10,7", "text \"Tiny\" 5,5,5,2 centre noclip"));
+    Phase* tiny = AddPhase(0, 0);
+    tiny->name = "Tiny";
+    tiny->inputs = {GateSlot{"in"}};
+    tiny->outputs = {GateSlot{"out"}};
+    const auto paintAt = [&](float scale) {
+        RecordingSurface dc;
+        PaintCanvas(dc, weaver, 640, 480, ViewTransform{0, 0, scale}, CanvasFontAt(scale, true));
+        return dc.calls;
+    };
+    EXPECT_THAT(paintAt(0.05f),
+                ElementsAre("font Arial 1 400", "rectangle 0,0,640,480", "pen solid 1 0,0,0",
+                            "brush 255,255,255", "rectangle 0,0,10,7"));
+    EXPECT_THAT(paintAt(0.3f),
+                ElementsAre("font Arial 4 400", "rectangle 0,0,640,480", "pen solid 1 0,0,0",
+                            "brush 255,255,255", "rectangle 0,0,60,45", "font Arial 12 400",
+                            "text \"Tiny\" 5,5,55,40 centre noclip", "font Arial 4 400"));
+    EXPECT_EQ(CountStarting(paintAt(0.5f), "text"), 1u);
+
+    weaver.options.DrawInputOutputs = true;
+    EXPECT_EQ(CountStarting(paintAt(0.3f), "text"), 1u) << "no gate label";
+    EXPECT_EQ(CountStarting(paintAt(0.5f), "text"), 3u) << "the name and two labels";
 }
 
 // A file may place anything at the very edge of the coordinate range; the

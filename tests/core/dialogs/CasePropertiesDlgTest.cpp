@@ -71,8 +71,11 @@ TEST_F(CasePropertiesDlgTest, OkChecksInOrderAndWritesNothingWhenRefused) {
     EXPECT_EQ(e.weaver.FindPhaseByName("EscortLeg")->caseId, opening().id);
 }
 
-TEST_F(CasePropertiesDlgTest, OkRewiresBothSidesButKeepsTheCasesName) {
-    CasePropertiesDlg dlg(e.weaver, opening(), {});
+// The name typed is kept: a designer who renames a case must not see the
+// old name come back.
+TEST_F(CasePropertiesDlgTest, OkRewiresBothSidesAndKeepsTheNameTyped) {
+    Case& caseObject = opening();
+    CasePropertiesDlg dlg(e.weaver, caseObject, {});
     dlg.memberList.Select(0);
     dlg.OnRemove();
     dlg.candidateCombo.SelectByText("WaypointNorth");
@@ -82,13 +85,13 @@ TEST_F(CasePropertiesDlgTest, OkRewiresBothSidesButKeepsTheCasesName) {
     dlg.name = "Renamed";
 
     ASSERT_TRUE(dlg.Ok(e.prompts));
-    EXPECT_EQ(opening().phaseIds, (Ids{PhaseId("ReconSweep"), PhaseId("WaypointNorth")}))
+    EXPECT_EQ(caseObject.phaseIds, (Ids{PhaseId("ReconSweep"), PhaseId("WaypointNorth")}))
         << "a row naming no phase is dropped";
     EXPECT_EQ(e.weaver.FindPhaseByName("EscortLeg")->caseId, 0);
-    EXPECT_EQ(e.weaver.FindPhaseByName("WaypointNorth")->caseId, opening().id);
-    EXPECT_EQ(opening().name, "CaseOpening");
+    EXPECT_EQ(e.weaver.FindPhaseByName("WaypointNorth")->caseId, caseObject.id);
+    EXPECT_EQ(caseObject.name, "Renamed");
     EXPECT_TRUE(dlg.IsResultValid());
-    opening().name = "CaseThreat";
+    caseObject.name = "CaseThreat";
     EXPECT_FALSE(dlg.IsResultValid());
 }
 

@@ -62,15 +62,15 @@ gui_helper; Contact; 550; 270;""; ( ); 4;
 gui_helper; Sighting; 450; 550;
 gui_helper; ReturnHome; 600; 300;
 gui_helper; CaseContact; 300; 450;
-gui_helper; check; 516; 372;Contact(in_radius)
-gui_helper; Model; 166; 178;PatrolStart; (PatrolLead);
-gui_helper; Skin; 166; 145;PatrolStart; (PatrolLead);
-gui_helper; Country; 166; 112;PatrolStart; (PatrolLead);
-gui_helper; Altitude; 166; 79;PatrolStart; (PatrolLead);
-gui_helper; Model; 516; 178;Contact; (Interceptor);
-gui_helper; Skin; 516; 145;Contact; (Interceptor);
-gui_helper; Country; 516; 112;Contact; (Interceptor);
-gui_helper; Speed; 516; 79;Contact; (Interceptor);
+gui_helper; check; 616; 442;Contact(in_radius)
+gui_helper; Model; 266; 248;PatrolStart; (PatrolLead);
+gui_helper; Skin; 266; 215;PatrolStart; (PatrolLead);
+gui_helper; Country; 266; 182;PatrolStart; (PatrolLead);
+gui_helper; Altitude; 266; 149;PatrolStart; (PatrolLead);
+gui_helper; Model; 616; 248;Contact; (Interceptor);
+gui_helper; Skin; 616; 215;Contact; (Interceptor);
+gui_helper; Country; 616; 182;Contact; (Interceptor);
+gui_helper; Speed; 616; 149;Contact; (Interceptor);
 gui_helper; Model; 516; 528;Sighting; (ReconPlane);
 gui_helper; Skin; 516; 495;Sighting; (ReconPlane);
 gui_helper; Country; 516; 462;Sighting; (ReconPlane);

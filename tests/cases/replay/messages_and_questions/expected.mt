@@ -63,10 +63,10 @@ gui_helper; Sighting; 450; 550;
 gui_helper; ReturnHome; 600; 300;
 gui_helper; CaseContact; 300; 450;
 gui_helper; check; 516; 372;Contact(in_radius)
-gui_helper; Model; 166; 178;PatrolStart; (PatrolLead);
-gui_helper; Skin; 166; 145;PatrolStart; (PatrolLead);
-gui_helper; Country; 166; 112;PatrolStart; (PatrolLead);
-gui_helper; Altitude; 166; 79;PatrolStart; (PatrolLead);
+gui_helper; Model; 176; 188;PatrolStart; (PatrolLead);
+gui_helper; Skin; 176; 155;PatrolStart; (PatrolLead);
+gui_helper; Country; 176; 122;PatrolStart; (PatrolLead);
+gui_helper; Altitude; 176; 89;PatrolStart; (PatrolLead);
 gui_helper; Model; 516; 178;Contact; (Interceptor);
 gui_helper; Skin; 516; 145;Contact; (Interceptor);
 gui_helper; Country; 516; 112;Contact; (Interceptor);

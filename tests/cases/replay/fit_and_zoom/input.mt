@@ -1,0 +1,78 @@
+# tarnwick Ostrel mission template file [text dump]
+# sample_small moved into a 1024 by 768 window; ReturnHome overlaps the lower right corner of Contact
+
+#
+## block sets
+#
+blocks_set; blocks_PatrolStart; main(scg\0\blocks\air\patrol.group);
+blocks_set; blocks_Contact; main(scg\0\blocks\air\intercept.group);
+blocks_set; blocks_Sighting; main(scg\0\blocks\air\reconflight.group);
+blocks_set; blocks_ReturnHome; main(scg\0\blocks\air\landing.group);
+
+#
+## geo params
+#
+phase; PatrolStart; server_setpos(); blocks_PatrolStart; ;;
+phase; Contact; random(PatrolStart); blocks_Contact; random_pos;;
+phase; Sighting; azimuth(PatrolStart,-1,1500.000000,90); blocks_Sighting; ;;
+phase; ReturnHome; server_waypoint(); blocks_ReturnHome; land;;
+
+#
+## cases & switches
+#
+case; CaseContact(Contact,Sighting);
+
+#
+## gate links
+#
+tlink; PatrolStart(spotted); Contact(spotted);
+olink; PatrolStart(OBJECT_plane); ReturnHome(OBJECT_plane);
+tlink; Contact(done); ReturnHome(done);
+tlink; Sighting(failed); ReturnHome(failed);
+
+#
+## conditions
+#
+check; Contact; in_radius(PRIMARY_LINK_PHASE,2000);
+
+#
+## property actions
+#
+action; PatrolStart(PatrolLead,Model); set_model(fighter,ally:fighter:kestrel_mk3);
+action; PatrolStart(PatrolLead,Skin); set_skin($friendly_skin_1);
+action; PatrolStart(PatrolLead,Country); set_country(friendly);
+action; PatrolStart(PatrolLead,Altitude); set_altitude(Altitude,1500);if(alt<=2000); 
+action; Contact(Interceptor,Model); set_model(enemy model 2,server decides);
+action; Contact(Interceptor,Skin); set_skin($enemy_skin_1);
+action; Contact(Interceptor,Country); set_country(enemy);
+action; Contact(Interceptor,Speed); set_speed(Speed,160);
+action; Sighting(ReconPlane,Model); set_model(unique random recon,random friendly);
+action; Sighting(ReconPlane,Skin); set_skin($friendly_skin_3);
+action; Sighting(ReconPlane,Country); set_country(friendly);
+action; Sighting(ReconPlane,Altitude); set_altitude(Altitude,2400);if(clouds<3); 
+
+#
+## unlinks
+#
+
+#
+## gui helpers
+#
+gui_helper; PatrolStart; 100; 200;""; ( ); 2;
+gui_helper; Contact; 450; 200;""; ( ); 4;
+gui_helper; Sighting; 450; 550;
+gui_helper; ReturnHome; 600; 300;
+gui_helper; CaseContact; 300; 450;
+gui_helper; check; 516; 372;Contact(in_radius)
+gui_helper; Model; 166; 178;PatrolStart; (PatrolLead);
+gui_helper; Skin; 166; 145;PatrolStart; (PatrolLead);
+gui_helper; Country; 166; 112;PatrolStart; (PatrolLead);
+gui_helper; Altitude; 166; 79;PatrolStart; (PatrolLead);
+gui_helper; Model; 516; 178;Contact; (Interceptor);
+gui_helper; Skin; 516; 145;Contact; (Interceptor);
+gui_helper; Country; 516; 112;Contact; (Interceptor);
+gui_helper; Speed; 516; 79;Contact; (Interceptor);
+gui_helper; Model; 516; 528;Sighting; (ReconPlane);
+gui_helper; Skin; 516; 495;Sighting; (ReconPlane);
+gui_helper; Country; 516; 462;Sighting; (ReconPlane);
+gui_helper; Altitude; 516; 429;Sighting; (ReconPlane);

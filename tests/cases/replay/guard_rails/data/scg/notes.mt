@@ -1,0 +1,2 @@
+These are notes about a mission,
+not a template.
