@@ -3,6 +3,8 @@
 // scene code alone) and into a QImage with Qt's painter (what a repaint
 // costs). The canvas is a window of 1280 by 800 at the origin and scale 1;
 // the scene paints every object wherever it lies, and the painter clips.
+// PaintFittedImage paints the view that Fit All gives, where the whole
+// template is inside the window at once: nothing is clipped away.
 #include "CanvasImage.h"
 #include "canvas/CanvasPaint.h"
 #include "canvas/RecordingSurface.h"
@@ -35,8 +37,21 @@ void BM_PaintImage(benchmark::State& state) {
     }
 }
 
+void BM_PaintFittedImage(benchmark::State& state) {
+    BenchEditor editor(static_cast<int>(state.range(0)));
+    editor.view.pixelWidth = kWidth;
+    editor.view.pixelHeight = kHeight;
+    editor.weaver.FitAll();
+    for (auto _ : state) {
+        QImage image =
+            PaintCanvasImage(editor.weaver, editor.view, editor.view.font, QSize(kWidth, kHeight));
+        benchmark::DoNotOptimize(image.constBits());
+    }
+}
+
 BENCHMARK(BM_PaintRecording)->Apply(AtEverySize);
 BENCHMARK(BM_PaintImage)->Apply(AtEverySize);
+BENCHMARK(BM_PaintFittedImage)->Apply(AtEverySize);
 
 } // namespace
 } // namespace lw::bench

@@ -32,19 +32,40 @@ QRectF DeviceArea(const QPainter& painter) {
 } // namespace
 
 QPainterSurface::QPainterSurface(QPainter& painter, Unseen unseen)
-    : painter_(painter), unseen_(unseen), pen_(ToQPen(kThinBlackPen)) {
+    : painter_(painter), unseen_(unseen), selectedPen_(kThinBlackPen), pen_(ToQPen(kThinBlackPen)) {
     painter_.setRenderHint(QPainter::Antialiasing, false);
     painter_.setBackgroundMode(Qt::TransparentMode);
     painter_.setPen(pen_);
     painter_.setBrush(ToQColor(kWhiteBrush.colour));
     visible_ = DeviceArea(painter_);
-    MeasureFont();
 }
 
+// A surface dropped with lines still waiting draws them while it can.
+QPainterSurface::~QPainterSurface() {
+    if (painter_.isActive())
+        FlushLines();
+}
+
+void QPainterSurface::Finish() {
+    FlushLines();
+}
+
+void QPainterSurface::FlushLines() {
+    if (lines_.empty())
+        return;
+    painter_.drawLines(lines_.data(), static_cast<int>(lines_.size()));
+    lines_.clear();
+}
+
+// Finding a font's widest glyph is costly, and a view zoomed far out draws
+// no text at all: the font is measured when the first text needs it.
 void QPainterSurface::MeasureFont() {
+    if (fontMeasured_)
+        return;
     const QFontMetricsF metrics(painter_.font());
     maxGlyphWidth_ = metrics.maxWidth();
     lineHeight_ = metrics.lineSpacing();
+    fontMeasured_ = true;
 }
 
 bool QPainterSurface::MayShow(const QRectF& bounds) const {
@@ -57,10 +78,10 @@ bool QPainterSurface::MayShow(const QRectF& bounds) const {
 // A text kept to its box shows only there; one that may leave it stays
 // within as many widest glyphs as it has characters to either side and as
 // many lines as it has above and below.
-bool QPainterSurface::MayShowText(const std::string& text, const ScreenRect& rect,
-                                  unsigned flags) const {
+bool QPainterSurface::MayShowText(const std::string& text, const ScreenRect& rect, unsigned flags) {
     if (unseen_ == Unseen::Draw)
         return true;
+    MeasureFont();
     QRectF bounds = ToTextBox(rect);
     if ((flags & TextNoClip) != 0) {
         const qreal lines = 1 + static_cast<qreal>(std::count(text.begin(), text.end(), '\n'));
@@ -72,17 +93,26 @@ bool QPainterSurface::MayShowText(const std::string& text, const ScreenRect& rec
 }
 
 void QPainterSurface::SelectPen(const Pen& pen) {
+    if (pen == selectedPen_)
+        return;
+    FlushLines();
+    selectedPen_ = pen;
     pen_ = ToQPen(pen);
     painter_.setPen(pen_);
 }
 
 void QPainterSurface::SelectBrush(const Brush& brush) {
+    if (brushSelected_ && brush.colour == selectedBrush_.colour)
+        return;
+    selectedBrush_ = brush;
+    brushSelected_ = true;
     painter_.setBrush(ToQColor(brush.colour));
 }
 
 void QPainterSurface::SelectFont(const CanvasFont& font) {
+    FlushLines();
     painter_.setFont(ToQFont(font));
-    MeasureFont();
+    fontMeasured_ = false;
 }
 
 Rgb QPainterSurface::SetTextColour(Rgb colour) {
@@ -92,28 +122,39 @@ Rgb QPainterSurface::SetTextColour(Rgb colour) {
 }
 
 void QPainterSurface::Rectangle(const ScreenRect& rect) {
-    if (!rect.IsEmpty() && MayShow(ToTextBox(rect)))
-        painter_.drawRect(ToOutlineRect(rect));
+    if (rect.IsEmpty() || !MayShow(ToTextBox(rect)))
+        return;
+    FlushLines();
+    painter_.drawRect(ToOutlineRect(rect));
 }
 
 void QPainterSurface::Ellipse(const ScreenRect& rect) {
-    if (!rect.IsEmpty() && MayShow(ToTextBox(rect)))
-        painter_.drawEllipse(ToOutlineRect(rect));
+    if (rect.IsEmpty() || !MayShow(ToTextBox(rect)))
+        return;
+    FlushLines();
+    painter_.drawEllipse(ToOutlineRect(rect));
 }
 
 void QPainterSurface::RoundRect(const ScreenRect& rect, int cornerWidth, int cornerHeight) {
-    if (!rect.IsEmpty() && MayShow(ToTextBox(rect)))
-        painter_.drawRoundedRect(ToOutlineRect(rect), cornerWidth / 2.0, cornerHeight / 2.0);
+    if (rect.IsEmpty() || !MayShow(ToTextBox(rect)))
+        return;
+    FlushLines();
+    painter_.drawRoundedRect(ToOutlineRect(rect), cornerWidth / 2.0, cornerHeight / 2.0);
 }
 
 void QPainterSurface::Line(ScreenPoint from, ScreenPoint to) {
-    if (MayShow(QRectF(QPointF(from.x, from.y), QPointF(to.x, to.y)).normalized()))
+    if (!MayShow(QRectF(QPointF(from.x, from.y), QPointF(to.x, to.y)).normalized()))
+        return;
+    if (selectedPen_.style == PenStyle::Solid)
+        lines_.emplace_back(from.x, from.y, to.x, to.y);
+    else
         painter_.drawLine(from.x, from.y, to.x, to.y);
 }
 
 void QPainterSurface::DrawText(const std::string& text, const ScreenRect& rect, unsigned flags) {
     if (!MayShowText(text, rect, flags))
         return;
+    FlushLines();
     painter_.setPen(ToQColor(textColour_));
     painter_.drawText(ToTextBox(rect), ToQtTextFlags(flags), ToText(text));
     painter_.setPen(pen_);
@@ -122,6 +163,7 @@ void QPainterSurface::DrawText(const std::string& text, const ScreenRect& rect, 
 void QPainterSurface::DrawBumpEdge(const ScreenRect& rect) {
     if (rect.IsEmpty() || !MayShow(ToTextBox(rect)))
         return;
+    FlushLines();
     // Each border is one pixel wide: first its upper and left sides, then its
     // lower and right ones, which own the corners they share.
     const auto border = [this](int left, int top, int right, int bottom, Rgb upperLeft,

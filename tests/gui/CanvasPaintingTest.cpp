@@ -22,6 +22,7 @@ template <typename Draw> QImage Drawn(Draw draw) {
     QPainter painter(&image);
     lw::QPainterSurface surface(painter);
     draw(surface);
+    surface.Finish();
     painter.end();
     return image;
 }

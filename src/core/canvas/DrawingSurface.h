@@ -28,6 +28,10 @@ struct Pen {
     Rgb colour;
 };
 
+inline bool operator==(const Pen& a, const Pen& b) {
+    return a.style == b.style && a.width == b.width && a.colour == b.colour;
+}
+
 // The inside of rectangles, ellipses and round rectangles: always solid.
 struct Brush {
     Rgb colour;
@@ -68,6 +72,9 @@ public:
     virtual void DrawText(const std::string& text, const ScreenRect& rect, unsigned flags) = 0;
     // A raised ridge on all four sides: a raised outer and a sunken inner border.
     virtual void DrawBumpEdge(const ScreenRect& rect) = 0;
+    // Everything drawn so far must be on the device: a surface that gathers
+    // calls to draw them together draws what it holds.
+    virtual void Finish() {}
 };
 
 } // namespace lw

@@ -2,6 +2,7 @@
 
 #include "canvas/CanvasPalette.h"
 #include "canvas/InteractionState.h"
+#include "canvas/OverviewPainter.h"
 #include "document/Keywords.h"
 
 #include <algorithm>
@@ -25,6 +26,7 @@ constexpr float kMapScale = 0.5f;
 // Names are drawn on the map only while a phase's box is this many pixels
 // wide: on smaller boxes they would merely cover each other.
 constexpr int kMapNameMinBoxWidth = 30;
+
 const CanvasFont kMapNameFont{"Arial", 12, 400};
 // The gap between a case's circle and its name.
 constexpr int kCaseNameGap = 4;
@@ -62,13 +64,12 @@ std::string GeometryText(const Phase& phase) {
            shown + ")";
 }
 
-// A phase whose placement needs a geometry link it does not have.
+} // namespace
+
 bool LacksMandatoryLink(const Phase& phase) {
     return (HasPrimaryLink(phase.generationType) && phase.primaryLinkId == 0) ||
            (HasSecondaryLink(phase.generationType) && phase.secondaryLinkId == 0);
 }
-
-} // namespace
 
 std::string GeometryDetailText(const Phase& phase) {
     const std::vector<std::string>& p = phase.geoParams;
@@ -97,16 +98,21 @@ void ScenePainter::PaintScene() const {
         dc_.SelectBrush(kBandBrush);
         dc_.Rectangle(gesture_.bandRect);
     }
-    PaintPhases();
-    PaintLinks();
-    PaintCases();
-    PaintSwitches();
-    PaintChecks();
-    PaintActions();
-    PaintUnlinkers();
+    if (IsOverview()) {
+        OverviewPainter(store_, options_, gesture_, dc_, view_).Paint();
+    } else {
+        PaintPhases();
+        PaintLinks();
+        PaintCases();
+        PaintSwitches();
+        PaintChecks();
+        PaintActions();
+        PaintUnlinkers();
+    }
     if (gesture_.bandActive)
         dc_.DrawBumpEdge(gesture_.bandRect);
     PaintGestureLine();
+    dc_.Finish();
 }
 
 void ScenePainter::PaintPhases() const {
@@ -121,6 +127,10 @@ void ScenePainter::PaintPhases() const {
     });
     if (options_.DrawGeometry)
         PaintPickedGeometryLink();
+}
+
+bool ScenePainter::IsOverview() const {
+    return view_.scale < kOverviewScale;
 }
 
 void ScenePainter::PaintPhaseBox(const Phase& phase) const {
@@ -145,6 +155,13 @@ bool ScenePainter::IsMap() const {
     return view_.scale < kMapScale;
 }
 
+// On a map, every text but the phases' names is too small to read, and is
+// left out.
+void ScenePainter::Label(const std::string& text, const ScreenRect& rect, unsigned flags) const {
+    if (!IsMap())
+        dc_.DrawText(text, rect, flags);
+}
+
 // A stub with the gate's name above it and an arrowhead at its right end for
 // an input, at its left end for an output: both point to the right, the
 // output's barbs reaching back into the box.
@@ -167,8 +184,7 @@ void ScenePainter::PaintGates(const Phase& phase, bool isInput) const {
         dc_.Line({x0, y}, {x1, y});
         const ScreenRect label =
             Shrunk(ScreenRect{x0, ClampedSum(y, -kGateLabelHeight), x1, y}, kGateLabelInset);
-        if (!IsMap())
-            dc_.DrawText(gates[i].name, label, labelFlags);
+        Label(gates[i].name, label, labelFlags);
         dc_.Line({ClampedSum(tipX, a), ClampedSum(y, b)}, {tipX, y});
         dc_.Line({ClampedSum(tipX, a), ClampedSum(y, c)}, {tipX, y});
     }
@@ -177,15 +193,17 @@ void ScenePainter::PaintGates(const Phase& phase, bool isInput) const {
 void ScenePainter::PaintGeometry(const Phase& phase) const {
     const ScreenRect t =
         Shrunk(phase.GetScreenRect(view_.viewX, view_.viewY, view_.scale), kPhaseTextInset);
-    const Rgb previousColour = dc_.SetTextColour(kGeometryTextColour);
-    dc_.DrawText(GeometryText(phase), t,
-                 TextCentre | TextVerticalCentre | TextSingleLine | TextNoClip);
-    const std::string detail = GeometryDetailText(phase);
-    if (!detail.empty()) {
-        dc_.SetTextColour(kGeometryDetailColour);
-        dc_.DrawText(detail, t, TextCentre | TextBottom | TextSingleLine | TextNoClip);
+    if (!IsMap()) {
+        const Rgb previousColour = dc_.SetTextColour(kGeometryTextColour);
+        dc_.DrawText(GeometryText(phase), t,
+                     TextCentre | TextVerticalCentre | TextSingleLine | TextNoClip);
+        const std::string detail = GeometryDetailText(phase);
+        if (!detail.empty()) {
+            dc_.SetTextColour(kGeometryDetailColour);
+            dc_.DrawText(detail, t, TextCentre | TextBottom | TextSingleLine | TextNoClip);
+        }
+        dc_.SetTextColour(previousColour);
     }
-    dc_.SetTextColour(previousColour);
 
     // A server_waypoint phase needs no primary link, yet shows one it has.
     const std::int32_t type = phase.generationType;
@@ -260,8 +278,7 @@ void ScenePainter::PaintCases() const {
         // from another on the canvas.
         const ScreenRect nameRect{ClampedSum(r.right, kCaseNameGap), r.top,
                                   ClampedSum(r.right, kCaseNameGap), r.bottom};
-        dc_.DrawText(item.name, nameRect,
-                     TextLeft | TextVerticalCentre | TextSingleLine | TextNoClip);
+        Label(item.name, nameRect, TextLeft | TextVerticalCentre | TextSingleLine | TextNoClip);
         dc_.SelectPen(kThinBluePen);
         for (std::int32_t phaseId : item.phaseIds)
             dc_.Line(item.ScreenAnchor(view_), ConnectionPoint(store_.FindPhase(phaseId)));
@@ -283,7 +300,7 @@ void ScenePainter::PaintSwitches() const {
         dc_.SelectPen(kThinBlackPen);
         const std::string count =
             std::to_string(item.number) + " of " + std::to_string(item.caseIds.size());
-        dc_.DrawText(count, r, TextCentre | TextVerticalCentre | TextSingleLine | TextNoClip);
+        Label(count, r, TextCentre | TextVerticalCentre | TextSingleLine | TextNoClip);
     });
 }
 
@@ -297,8 +314,8 @@ void ScenePainter::PaintChecks() const {
         const ScreenRect r = PaintRuleBox(check, check.phaseId, corner);
         const ScreenRect textRect{ClampedSum(r.left, textShift), r.top,
                                   ClampedSum(r.right, textShift), r.bottom};
-        dc_.DrawText(checkTypeToKeyword(static_cast<CheckType>(check.type)), textRect,
-                     TextVerticalCentre | TextSingleLine | TextNoClip);
+        Label(checkTypeToKeyword(static_cast<CheckType>(check.type)), textRect,
+              TextVerticalCentre | TextSingleLine | TextNoClip);
     });
 }
 
@@ -309,8 +326,8 @@ void ScenePainter::PaintActions() const {
     store_.ForEach<Action>([&](const Action& action) {
         const ScreenRect r = PaintRuleBox(action, action.phaseId, corner);
         const std::string owner = action.objectName.empty() ? "*" : action.objectName;
-        dc_.DrawText(owner + ":" + action.name, r,
-                     TextCentre | TextVerticalCentre | TextSingleLine | TextNoClip);
+        Label(owner + ":" + action.name, r,
+              TextCentre | TextVerticalCentre | TextSingleLine | TextNoClip);
     });
 }
 

@@ -51,6 +51,11 @@ private:
     // Whether the view is zoomed out so far that the canvas font is too small
     // to read: the scene is then drawn as a map.
     bool IsMap() const;
+    // Whether the map is zoomed out so far that only boxes and lines show.
+    bool IsOverview() const;
+
+    // A text other than a phase's name, which a map leaves out.
+    void Label(const std::string& text, const ScreenRect& rect, unsigned flags) const;
     void PaintGates(const Phase& phase, bool isInput) const;
     void PaintGeometry(const Phase& phase) const;
     void PaintPickedGeometryLink() const;
@@ -71,6 +76,10 @@ private:
     DrawingSurface& dc_;
     const ViewTransform view_;
 };
+
+// A phase whose placement needs a geometry link it does not have: its box is
+// outlined in red.
+bool LacksMandatoryLink(const Phase& phase);
 
 // The second line of a phase's geometry: some of its parameters, "; " between
 // them, for azimuth, fractal and line phases with enough of them; else empty.
