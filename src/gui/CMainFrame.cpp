@@ -95,16 +95,19 @@ void CMainFrame::CreateStatusBar() {
     auto* ready = new QLabel(tr("Ready"), statusBar());
     ready->setObjectName("ready");
     statusBar()->addWidget(ready, 1);
-    const auto field = [this](const char* name) {
+    // Each field is wide enough for its longest text, so that the fields
+    // stand still while their texts change.
+    const auto field = [this](const char* name, const QString& longest) {
         auto* label = new QLabel(statusBar());
         label->setObjectName(name);
+        label->setMinimumWidth(label->fontMetrics().horizontalAdvance(longest) + 8);
         statusBar()->addPermanentWidget(label);
         return label;
     };
-    hintField_ = field("hint");
-    pointerField_ = field("pointer");
-    selectionField_ = field("selection");
-    zoomField_ = field("zoom");
+    hintField_ = field("hint", QString());
+    pointerField_ = field("pointer", QStringLiteral("-99999, -99999"));
+    selectionField_ = field("selection", QStringLiteral("9999 selected"));
+    zoomField_ = field("zoom", QStringLiteral("200%"));
     new LockKeyIndicators(*statusBar());
 }
 
