@@ -115,6 +115,14 @@ void BM_Open(benchmark::State& state) {
         editor.weaver.LoadTemplateFile(synth::SyntheticData::kTemplateName);
 }
 
+// Open as the editor does it, with every line's and record's problems reported.
+void BM_OpenReportingProblems(benchmark::State& state) {
+    BenchEditor editor(static_cast<int>(state.range(0)));
+    editor.weaver.reportProblems = true;
+    for (auto _ : state)
+        editor.weaver.LoadTemplateFile(synth::SyntheticData::kTemplateName);
+}
+
 void BM_Save(benchmark::State& state) {
     BenchEditor editor(static_cast<int>(state.range(0)));
     editor.weaver.fileName = "scg\\saved.mt";
@@ -130,6 +138,7 @@ BENCHMARK(BM_Write)->Apply(AtEverySize);
 BENCHMARK(BM_WriteFloor)->Apply(AtEverySize);
 BENCHMARK(BM_WriteFloorUnsynced)->Apply(AtEverySize);
 BENCHMARK(BM_Open)->Apply(AtEverySize);
+BENCHMARK(BM_OpenReportingProblems)->Apply(AtEverySize);
 BENCHMARK(BM_Save)->Apply(AtEverySize);
 
 } // namespace

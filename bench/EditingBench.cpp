@@ -126,7 +126,18 @@ void TimedSizes(benchmark::internal::Benchmark* benchmark) {
     benchmark->UseManualTime();
 }
 
+// The document's own checks, which the Problems panel runs again after every
+// change.
+void BM_CheckDocument(benchmark::State& state) {
+    BenchEditor editor(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        editor.weaver.problems.DocumentChanged();
+        benchmark::DoNotOptimize(editor.weaver.problems.All(editor.weaver, "synthetic.mt").size());
+    }
+}
+
 BENCHMARK(BM_HitTest)->Apply(AtEverySize);
+BENCHMARK(BM_CheckDocument)->Apply(AtEverySize);
 BENCHMARK(BM_BandSelect)->Apply(AtEverySize);
 BENCHMARK(BM_DragStep)->Apply(AtEverySize);
 BENCHMARK(BM_DeleteSelection)->Apply(TimedSizes);

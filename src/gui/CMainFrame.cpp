@@ -4,6 +4,7 @@
 #include "CommandActions.h"
 #include "FindBar.h"
 #include "LockKeyIndicators.h"
+#include "ProblemsPanel.h"
 #include "QtText.h"
 #include "app/AppInfo.h"
 #include "app/CanvasStatus.h"
@@ -27,6 +28,8 @@ CMainFrame::CMainFrame(QWidget* parent)
     setWindowTitle(lw::kApplicationName);
     prompts_.SetParent(this);
     fileDialogs_.SetParent(this);
+    // The Problems panel lists what reading a template finds.
+    weaver_.reportProblems = true;
     propertyDialogs_.SetParent(this);
     weaver_.SetPropertyDialogs(&propertyDialogs_);
 }
@@ -70,6 +73,11 @@ void CMainFrame::CreateCanvasArea() {
     setCentralWidget(area);
     connect(findBar_, &FindBar::stepAsked, this, &CMainFrame::StepThroughMatches);
     connect(findBar_, &FindBar::closed, this, [this] { view_.setFocus(); });
+
+    problemsPanel_ = new ProblemsPanel(weaver_, this);
+    addDockWidget(Qt::BottomDockWidgetArea, problemsPanel_);
+    resizeDocks({problemsPanel_}, {120}, Qt::Vertical);
+    connect(problemsPanel_, &ProblemsPanel::objectShown, this, &CMainFrame::RefreshCommandStates);
 }
 
 void CMainFrame::StepThroughMatches(bool forward) {
@@ -108,6 +116,7 @@ void CMainFrame::CreateStatusBar() {
     pointerField_ = field("pointer", QStringLiteral("-99999, -99999"));
     selectionField_ = field("selection", QStringLiteral("9999 selected"));
     zoomField_ = field("zoom", QStringLiteral("200%"));
+    problemsField_ = field("problems", QStringLiteral("9999 problems"));
     new LockKeyIndicators(*statusBar());
 }
 
@@ -117,6 +126,8 @@ void CMainFrame::RefreshCanvasStatus() {
     pointerField_->setText(ToQString(status.pointer));
     selectionField_->setText(ToQString(status.selection));
     zoomField_->setText(ToQString(status.zoom));
+    problemsPanel_->Refresh();
+    problemsField_->setText(ProblemCountText(problemsPanel_->Count()));
 }
 
 void CMainFrame::RunCommand(lw::CommandId command) {
@@ -156,6 +167,9 @@ void CMainFrame::RunWindowCommand(lw::CommandId command) {
     case lw::CommandId::EditFind:
         findBar_->Open();
         break;
+    case lw::CommandId::ViewProblems:
+        problemsPanel_->setVisible(problemsPanel_->isHidden());
+        break;
     default:
         break;
     }
@@ -167,6 +181,8 @@ bool CMainFrame::IsChecked(lw::CommandId command) const {
         return !actions_->Toolbar()->isHidden();
     if (command == lw::CommandId::ViewStatusBar)
         return !statusBar()->isHidden();
+    if (command == lw::CommandId::ViewProblems)
+        return !problemsPanel_->isHidden();
     return commands_.IsChecked(command);
 }
 

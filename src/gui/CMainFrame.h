@@ -14,6 +14,7 @@
 
 class CommandActions;
 class FindBar;
+class ProblemsPanel;
 class QLabel;
 
 // The main window. It holds the canvas and the central Weaver, gives Weaver
@@ -37,6 +38,7 @@ public:
     CChildView& view() { return view_; }
     CommandActions& actions() { return *actions_; }
     FindBar& findBar() { return *findBar_; }
+    ProblemsPanel& problemsPanel() { return *problemsPanel_; }
 
     // Runs the command if its enable rule allows it now, then brings every
     // menu entry, button and key up to date.
@@ -77,9 +79,11 @@ private:
     QtPropertyDialogs propertyDialogs_;
     CommandActions* actions_ = nullptr;
     FindBar* findBar_ = nullptr;
+    ProblemsPanel* problemsPanel_ = nullptr;
     // The status bar's fields for the canvas, from the left.
     QLabel* hintField_ = nullptr;
     QLabel* pointerField_ = nullptr;
     QLabel* selectionField_ = nullptr;
     QLabel* zoomField_ = nullptr;
+    QLabel* problemsField_ = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "TemplateCommands.h"
 
 #include "ToolSession.h"
+#include "diagnostics/DiagnosticsJson.h"
 #include "operations/BlockReloader.h"
 #include "platform/NativeFileSystem.h"
 
@@ -74,23 +75,97 @@ int RewriteTemplate(const ToolArguments& arguments, std::ostream& out, Prepare p
 
 } // namespace
 
-int RunCheckCommand(const ToolArguments& arguments, std::ostream& out) {
-    ToolSession session(arguments.dataFolder);
-    bool anyMessage = false;
-    bool anyUnreadable = false;
-    std::vector<std::string> messages = session.TakeMessages();
-    PrintLines(out, messages);
-    anyMessage = !messages.empty();
-    for (const std::string& path : TemplatesNamedBy(arguments.positional)) {
-        if (!session.weaver.LoadTemplateFile(CommandLinePath(path)))
-            anyUnreadable = true;
-        messages = session.TakeMessages();
-        PrintLines(out, messages, path + ": ");
-        anyMessage = anyMessage || !messages.empty();
+namespace {
+
+enum class CheckFormat { Text, Gcc, Json };
+
+// What check found in one template, printed in the format asked for.
+class CheckPrinter {
+public:
+    CheckPrinter(CheckFormat format, bool warningsCount, std::ostream& out)
+        : format_(format), warningsCount_(warningsCount), out_(out) {}
+
+    // The messages of one template and, but in the text format, its problems.
+    void Print(const std::string& file, const std::vector<std::string>& messages,
+               const lw::Diagnostics& problems) {
+        anyFinding_ = anyFinding_ || !messages.empty();
+        if (format_ == CheckFormat::Text) {
+            PrintLines(out_, messages, file.empty() ? std::string() : file + ": ");
+            return;
+        }
+        for (const lw::Diagnostic& problem : problems)
+            anyFinding_ = anyFinding_ || problem.severity == lw::Severity::Error || warningsCount_;
+        if (format_ == CheckFormat::Json) {
+            out_ << (printed_ == 0 ? "[\n  " : ",\n  ")
+                 << lw::TemplateResultJson(file, messages, problems);
+        } else {
+            for (const std::string& message : messages)
+                out_ << file << ": error: " << message << " [message]\n";
+            for (const lw::Diagnostic& problem : problems)
+                out_ << lw::GccLine(problem) << "\n";
+        }
+        ++printed_;
     }
+
+    void Finish() {
+        if (format_ == CheckFormat::Json)
+            out_ << (printed_ == 0 ? "[]\n" : "\n]\n");
+    }
+
+    bool AnyFinding() const { return anyFinding_; }
+
+private:
+    CheckFormat format_;
+    bool warningsCount_;
+    std::ostream& out_;
+    std::size_t printed_ = 0;
+    bool anyFinding_ = false;
+};
+
+// The problems of the open template, named by the path as it was typed.
+lw::Diagnostics ProblemsOf(lw::Weaver& weaver, const std::string& typed) {
+    lw::Diagnostics problems = weaver.problems.All(weaver, weaver.fileName);
+    for (lw::Diagnostic& problem : problems) {
+        if (problem.file == weaver.fileName)
+            problem.file = typed;
+    }
+    return problems;
+}
+
+} // namespace
+
+int RunCheckCommand(const ToolArguments& arguments, std::ostream& out) {
+    const auto formatValue = arguments.values.find(kFormatOption);
+    const std::string formatName =
+        formatValue != arguments.values.end() ? formatValue->second : "text";
+    if (formatName != "text" && formatName != "gcc" && formatName != "json") {
+        std::cerr << "loomwright-tool: the format must be text, gcc or json\n";
+        return kFailure;
+    }
+    const CheckFormat format = formatName == "gcc"    ? CheckFormat::Gcc
+                               : formatName == "json" ? CheckFormat::Json
+                                                      : CheckFormat::Text;
+    CheckPrinter printer(format, arguments.flags.count(kWerrorFlag) != 0, out);
+    ToolSession session(arguments.dataFolder);
+    session.weaver.reportProblems = format != CheckFormat::Text;
+    // What the data folder itself showed at start belongs to no template.
+    const std::vector<std::string> atStart = session.TakeMessages();
+    if (!atStart.empty())
+        printer.Print(format == CheckFormat::Text ? std::string() : arguments.dataFolder, atStart,
+                      {});
+    bool anyUnreadable = false;
+    for (const std::string& path : TemplatesNamedBy(arguments.positional)) {
+        const bool loaded = session.weaver.LoadTemplateFile(CommandLinePath(path));
+        anyUnreadable = anyUnreadable || !loaded;
+        const std::vector<std::string> messages = session.TakeMessages();
+        printer.Print(path, messages,
+                      loaded && format != CheckFormat::Text ? ProblemsOf(session.weaver, path)
+                                                            : lw::Diagnostics());
+    }
+    printer.Finish();
     if (anyUnreadable)
         return kFailure;
-    return anyMessage ? kMessageShown : kNoMessage;
+    return printer.AnyFinding() ? kMessageShown : kNoMessage;
 }
 
 int RunNormalizeCommand(const ToolArguments& arguments, std::ostream& out) {

@@ -4,9 +4,13 @@
 
 #include <ostream>
 
-// `check TEMPLATE...`: loads each template as the editor opens it and prints
-// every message, prefixed with the template's path and ": ".
+// `check [--format text|gcc|json] [--werror] TEMPLATE|FOLDER...`: loads each
+// template as the editor opens it and prints every message, prefixed with
+// the template's path and ": "; gcc and json print the problems that reading
+// and checking found as well.
 int RunCheckCommand(const ToolArguments& arguments, std::ostream& out);
+inline constexpr const char* kFormatOption = "--format";
+inline constexpr const char* kWerrorFlag = "--werror";
 
 // `normalize IN OUT`: loads IN as the editor opens it and writes OUT as the
 // editor saves it, printing the messages.

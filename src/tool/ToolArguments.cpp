@@ -2,7 +2,8 @@
 
 ToolArguments ToolArguments::Parse(const std::vector<std::string>& words,
                                    const std::string& defaultDataFolder,
-                                   const std::set<std::string>& valuedOptions) {
+                                   const std::set<std::string>& valuedOptions,
+                                   const std::set<std::string>& knownFlags) {
     ToolArguments arguments;
     arguments.dataFolder = defaultDataFolder;
     for (std::size_t i = 0; i < words.size(); ++i) {
@@ -14,6 +15,8 @@ ToolArguments ToolArguments::Parse(const std::vector<std::string>& words,
                 break;
             }
             (isData ? arguments.dataFolder : arguments.values[word]) = words[++i];
+        } else if (knownFlags.count(word) != 0) {
+            arguments.flags.insert(word);
         } else if (word.size() > 1 && word[0] == '-') {
             arguments.error = "unknown option " + word;
             break;

@@ -59,12 +59,16 @@ const char* const kFooter =
 const std::vector<ToolCommand>& ToolCommands() {
     static const std::vector<ToolCommand> commands = {
         {"check",
-         "  check [--data DIR] TEMPLATE|FOLDER...\n"
+         "  check [--data DIR] [--format text|gcc|json] [--werror] TEMPLATE|FOLDER...\n"
          "           load each template as the editor opens it and print every message\n"
          "           the editor would show, one line each: the template's path, \": \",\n"
          "           then the message's exact text; a FOLDER stands for every .mt file\n"
-         "           under it, in sorted order\n",
-         {},
+         "           under it, in sorted order; gcc prints the messages and every\n"
+         "           problem the reader and the checks find as FILE:LINE: severity:\n"
+         "           message [code], json one object per template; with gcc and json\n"
+         "           errors count for the exit status, with --werror warnings too\n",
+         {kFormatOption},
+         {kWerrorFlag},
          1,
          SIZE_MAX,
          Check},
@@ -72,6 +76,7 @@ const std::vector<ToolCommand>& ToolCommands() {
          "  normalize [--data DIR] IN OUT\n"
          "           load IN as the editor opens it and write OUT as the editor saves\n"
          "           it; the messages are printed without a prefix\n",
+         {},
          {},
          2,
          2,
@@ -84,6 +89,7 @@ const std::vector<ToolCommand>& ToolCommands() {
          "           --before, IN is read against the blocks of the data folder OLD,\n"
          "           the ones it was made with, so that the log tells every change\n",
          {kBeforeOption},
+         {},
          2,
          2,
          Reload},
@@ -95,6 +101,7 @@ const std::vector<ToolCommand>& ToolCommands() {
          "           geometry and all (the default), S the zoom from 0.01 to 2\n"
          "           (default 1); needs no display\n",
          {kLayersOption, kScaleOption},
+         {},
          2,
          2,
          RunRenderCommand},
@@ -114,6 +121,7 @@ const std::vector<ToolCommand>& ToolCommands() {
          "           the data folder) or property dialog, which are otherwise\n"
          "           cancelled; a line not understood stops it before it starts\n",
          {},
+         {},
          3,
          3,
          Replay},
@@ -124,6 +132,7 @@ const std::vector<ToolCommand>& ToolCommands() {
          "           folder it loads in into FOLDER, and print the template's path;\n"
          "           for trying the editor and the tool on large templates\n",
          {},
+         {},
          2,
          2,
          Generate},
@@ -131,6 +140,7 @@ const std::vector<ToolCommand>& ToolCommands() {
          "  info [--data DIR]\n"
          "           show what the editor reads from the data folder at start:\n"
          "           the configuration, the model and rule catalogues, the block folders\n",
+         {},
          {},
          0,
          0,

@@ -14,6 +14,7 @@ struct ToolCommand {
     const char* name;
     const char* usage;
     std::set<std::string> valuedOptions;
+    std::set<std::string> flags;
     std::size_t minArguments;
     std::size_t maxArguments;
     int (*run)(const ToolArguments& arguments, const char* usage);

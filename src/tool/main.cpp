@@ -58,7 +58,8 @@ int main(int argc, char** argv) {
 
     const std::string defaultData =
         lw::DataFolderForExecutable(lw::CurrentExecutablePath(argc > 0 ? argv[0] : nullptr));
-    const ToolArguments arguments = ToolArguments::Parse(rest, defaultData, command->valuedOptions);
+    const ToolArguments arguments =
+        ToolArguments::Parse(rest, defaultData, command->valuedOptions, command->flags);
     if (!arguments.error.empty())
         return UsageError(arguments.error, usage);
     const std::size_t count = arguments.positional.size();

@@ -2,6 +2,7 @@
 #include "CommandActions.h"
 #include "FindBar.h"
 #include "LockKeyIndicators.h"
+#include "ProblemsPanel.h"
 #include "QtPrompts.h"
 #include "QtPropertyDialogs.h"
 #include "ScriptedDialogRunner.h"
@@ -21,6 +22,7 @@
 #include <QTemporaryDir>
 #include <QToolBar>
 #include <QToolButton>
+#include <QTreeWidget>
 #include <QWheelEvent>
 #include <QtTest>
 #include <filesystem>
@@ -513,6 +515,31 @@ private slots:
         QCOMPARE(frame->statusBar()->findChild<QLabel*>("hint")->text(),
                  QString("Click to place the template, Esc cancels"));
         QTest::keyClick(view, Qt::Key_Escape);
+    }
+
+    // The Problems panel lists what a damaged template holds, and a double
+    // click takes the designer to the object.
+    void theProblemsPanelListsAndShowsTheObject() {
+        std::filesystem::copy_file(LOOMWRIGHT_CASES_DIR "/check/small-case/input.mt",
+                                   dataCopy.filePath("scg/damaged.mt").toStdString());
+        QVERIFY(frame->weaver().LoadTemplateFile("scg\\damaged.mt"));
+        frame->RefreshCommandStates();
+        auto* list = frame->problemsPanel().findChild<QTreeWidget*>("problemList");
+        QCOMPARE(list->topLevelItemCount(), 1);
+        QTreeWidgetItem* row = list->topLevelItem(0);
+        QCOMPARE(row->text(3), QString("10"));
+        QVERIFY(row->text(1).contains("Alone"));
+        QCOMPARE(frame->statusBar()->findChild<QLabel*>("problems")->text(), QString("1 problem"));
+
+        // A double click comes as a click, then the second press.
+        const QPoint onRow = list->visualItemRect(row).center();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, onRow);
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, onRow);
+        lw::Weaver& weaver = frame->weaver();
+        QCOMPARE(weaver.selection.members.size(), std::size_t{1});
+        const lw::EditorObject* alone = weaver.selection.members[0];
+        QCOMPARE(alone->GetKind(), lw::ObjectKind::Case);
+        QVERIFY(qAbs(view->ScreenX(alone->posX) - view->width() / 2) <= 2);
     }
 
     void theWindowIsGrabbedToAPicture() {

@@ -13,18 +13,6 @@ namespace {
 
 class ToolReplayTest : public ToolFolderTest {
 protected:
-    // A fresh copy of the sample data folder, since copies and reloads write
-    // into it, with the files of the case's data/ folder copied over it.
-    std::string FreshDataFor(const std::string& caseFolder) const {
-        const fs::path data = folder / "data";
-        fs::remove_all(data);
-        fs::copy(lw::test::SampleDataDir(), data, fs::copy_options::recursive);
-        if (fs::exists(caseFolder + "/data"))
-            fs::copy(caseFolder + "/data", data,
-                     fs::copy_options::recursive | fs::copy_options::overwrite_existing);
-        return data.string();
-    }
-
     // Runs in the scratch folder with OUT typed as given, so that the
     // captions in the output do not depend on where the test runs.
     ToolRun Replay(const std::string& data, const std::string& input, const std::string& script,

@@ -1,5 +1,7 @@
 #include "ToolRun.h"
 
+#include "support/TestFiles.h"
+
 #include <array>
 #include <cstdio>
 #include <sys/wait.h>
@@ -34,6 +36,17 @@ void ToolFolderTest::SetUp() {
               std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
     std::filesystem::remove_all(folder);
     std::filesystem::create_directories(folder);
+}
+
+std::string ToolFolderTest::FreshDataFor(const std::string& caseFolder) const {
+    namespace fs = std::filesystem;
+    const fs::path data = folder / "data";
+    fs::remove_all(data);
+    fs::copy(lw::test::SampleDataDir(), data, fs::copy_options::recursive);
+    if (fs::exists(caseFolder + "/data"))
+        fs::copy(caseFolder + "/data", data,
+                 fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    return data.string();
 }
 
 void ToolFolderTest::TearDown() {

@@ -23,6 +23,10 @@ protected:
     void SetUp() override;
     void TearDown() override;
     std::string Path(const std::string& name) const { return (folder / name).string(); }
+    // A fresh copy of the sample data folder in the scratch folder, since
+    // copies and reloads write into it, with the files of the case's data/
+    // folder copied over it.
+    std::string FreshDataFor(const std::string& caseFolder) const;
 
     std::filesystem::path folder;
 };

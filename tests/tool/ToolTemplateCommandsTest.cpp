@@ -1,6 +1,10 @@
 #include "ToolRun.h"
 #include "support/TestFiles.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -113,4 +117,47 @@ TEST_F(ToolTemplateCommandsTest, MissingOperandsAreUsageErrors) {
     const ToolRun help = RunTool("--help");
     EXPECT_NE(help.output.find("normalize [--data DIR] IN OUT"), std::string::npos);
     EXPECT_NE(help.output.find("Can't save template file!"), std::string::npos);
+}
+
+// Each folder below cases/check holds input.mt, with block files laid over
+// the sample data in an optional data/ folder, and the expected.txt that
+// `check --format gcc` prints of it, the data folder written DATA. The same
+// template checked as JSON gives valid JSON with as many diagnostics.
+TEST_F(ToolTemplateCommandsTest, CheckCasesReportEachProblemWithItsLine) {
+    const auto cases = lw::test::CaseFolders(lw::test::CasesDir() + "/check");
+    ASSERT_FALSE(cases.empty());
+    for (const std::string& caseFolder : cases) {
+        const std::string data = FreshDataFor(caseFolder);
+        ToolRun run =
+            RunTool("check --data " + Quoted(data) + " --format gcc input.mt", caseFolder);
+        std::string output = run.output;
+        for (std::size_t at; (at = output.find(data)) != std::string::npos;)
+            output.replace(at, data.size(), "DATA");
+        EXPECT_EQ(output, ReadFileBytes(caseFolder + "/expected.txt")) << caseFolder;
+        // Errors count for the exit status, warnings alone do not.
+        EXPECT_EQ(run.status, output.find(": error:") != std::string::npos ? 1 : 0) << caseFolder;
+
+        run = RunTool("check --data " + Quoted(data) + " --format json input.mt", caseFolder);
+        QJsonParseError error;
+        const QJsonDocument json =
+            QJsonDocument::fromJson(QByteArray::fromStdString(run.output), &error);
+        ASSERT_EQ(error.error, QJsonParseError::NoError) << caseFolder << run.output;
+        const QJsonObject result = json.array().at(0).toObject();
+        EXPECT_EQ(static_cast<std::size_t>(result["diagnostics"].toArray().size() +
+                                           result["messages"].toArray().size()),
+                  static_cast<std::size_t>(std::count(output.begin(), output.end(), '\n')))
+            << caseFolder;
+    }
+}
+
+// Warnings count for the exit status only when asked; the text format stays
+// as it always was, the message boxes alone.
+TEST_F(ToolTemplateCommandsTest, CheckFormatsAndWhatCountsForTheExitStatus) {
+    const std::string small = lw::test::CasesDir() + "/check/small-case/input.mt";
+    EXPECT_EQ(RunTool("check " + kDataOption + "--format gcc " + Quoted(small)).status, 0);
+    EXPECT_EQ(RunTool("check " + kDataOption + "--format gcc --werror " + Quoted(small)).status, 1);
+    const ToolRun text = RunTool("check " + kDataOption + Quoted(small));
+    EXPECT_EQ(text.output, "");
+    EXPECT_EQ(text.status, 0);
+    EXPECT_EQ(RunTool("check " + kDataOption + "--format xml " + Quoted(small)).status, 2);
 }

@@ -7,7 +7,7 @@ namespace lw {
 
 namespace {
 
-constexpr std::array<std::pair<CommandId, const char*>, 57> kNames{{
+constexpr std::array<std::pair<CommandId, const char*>, 58> kNames{{
     {CommandId::FileNew, "ID_FILE_NEW"},
     {CommandId::FileOpen, "ID_FILE_OPEN"},
     {CommandId::FileSave, "ID_FILE_SAVE"},
@@ -65,6 +65,7 @@ constexpr std::array<std::pair<CommandId, const char*>, 57> kNames{{
     {CommandId::RecentFile6, "ID_FILE_MRU_FILE6"},
     {CommandId::RecentFile7, "ID_FILE_MRU_FILE7"},
     {CommandId::RecentFile8, "ID_FILE_MRU_FILE8"},
+    {CommandId::ViewProblems, "ID_VIEW_PROBLEMS"},
 }};
 
 } // namespace

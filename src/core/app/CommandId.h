@@ -65,6 +65,7 @@ enum class CommandId {
     RecentFile6,
     RecentFile7,
     RecentFile8,
+    ViewProblems,
 };
 
 // The place in the recent files that a RecentFile command opens, from 0.

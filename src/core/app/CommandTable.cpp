@@ -67,6 +67,7 @@ const std::map<CommandId, const char*>& Prompts() {
         {C::EditFind, "Find phases, cases and switches by their names\nFind"},
         {C::FindNext, "Go to the next object found\nFind Next"},
         {C::FindPrevious, "Go to the previous object found\nFind Previous"},
+        {C::ViewProblems, "Show or hide the problems of the template\nProblems"},
     };
     return prompts;
 }
@@ -105,7 +106,8 @@ const std::vector<MenuDefinition>& MainMenu() {
           Entry("Find Previous\tShift+F3", C::FindPrevious)}},
         {"&View",
          {Separator(), Entry("&Toolbar", C::ViewToolbar), Entry("&Status Bar", C::ViewStatusBar),
-          Separator(), Entry("Draw Inputs, Outputs, Links", C::DrawIo),
+          Entry("Problems", C::ViewProblems), Separator(),
+          Entry("Draw Inputs, Outputs, Links", C::DrawIo),
           Entry("Draw Switches and Cases", C::DrawSwitches), Entry("Draw Checks", C::DrawChecks),
           Entry("Draw Actions", C::DrawActions), Entry("Draw Geometry", C::DrawGeometry),
           Separator(), Entry("Fit All\tCtrl+0", C::ViewZoomFit),
@@ -179,6 +181,7 @@ bool IsToggle(CommandId command) {
     switch (command) {
     case C::ViewToolbar:
     case C::ViewStatusBar:
+    case C::ViewProblems:
     case C::DrawIo:
     case C::DrawSwitches:
     case C::DrawChecks:

@@ -81,7 +81,7 @@ bool EditorCommands::IsChecked(CommandId command) const {
 bool EditorCommands::IsWindowCommand(CommandId command) {
     return command == CommandId::AppExit || command == CommandId::AppAbout ||
            command == CommandId::ViewToolbar || command == CommandId::ViewStatusBar ||
-           command == CommandId::EditFind;
+           command == CommandId::ViewProblems || command == CommandId::EditFind;
 }
 
 bool EditorCommands::IsViewCommand(CommandId command) {
@@ -90,6 +90,7 @@ bool EditorCommands::IsViewCommand(CommandId command) {
     case CommandId::AppAbout:
     case CommandId::ViewToolbar:
     case CommandId::ViewStatusBar:
+    case CommandId::ViewProblems:
     case CommandId::DrawIo:
     case CommandId::DrawSwitches:
     case CommandId::DrawChecks:

@@ -64,10 +64,7 @@ bool Finder::GoTo(std::size_t index) {
         return !matches_.empty() && GoTo(0);
     }
     current_ = index;
-    weaver_.selection.Clear();
-    weaver_.selection.Add(object);
-    weaver_.selection.Recalculate();
-    weaver_.CentreOn(*object);
+    weaver_.ShowObject(*object);
     return true;
 }
 

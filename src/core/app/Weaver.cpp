@@ -51,7 +51,10 @@ void Weaver::ForgetObject(const EditorObject* object) {
         pendingSwitch = nullptr;
 }
 
+// Every change of the document refreshes the title, so its problems are
+// checked again from here when next asked for.
 void Weaver::RefreshTitle() {
+    problems.DocumentChanged();
     if (viewHost != nullptr)
         viewHost->SetTitle(Title());
 }

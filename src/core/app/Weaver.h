@@ -8,7 +8,9 @@
 #include "catalog/BlocksContainer.h"
 #include "catalog/ModelList.h"
 #include "catalog/RuleCatalogue.h"
+#include "diagnostics/Problems.h"
 #include "document/TemplateDesc.h"
+#include "document/TemplateReadReport.h"
 #include "operations/ObjectStore.h"
 #include "platform/FileAccess.h"
 #include "platform/OptionsStore.h"
@@ -141,6 +143,8 @@ public:
     void ZoomOut();
     // Moves the view, at its scale, so that the object is in the middle.
     void CentreOn(const EditorObject& object);
+    // Selects the object alone and centres it, as Find and the problems do.
+    void ShowObject(EditorObject& object);
     void ResetView();
     // The canvas has a new size in pixels; a view fitted by Open or at start,
     // which the user has not moved since, is fitted again.
@@ -200,6 +204,11 @@ public:
     UndoManager undoManager;
     EditorOptions options;
     RecentFiles recentFiles;
+    // Whether reading a template reports the lines it drops and the records
+    // it cannot use, beside the message boxes. The editor and `check` ask
+    // for it; it makes opening a large template about two thirds slower.
+    bool reportProblems = false;
+    Problems problems;
     // Path of the open template relative to the data folder; empty for a new one.
     std::string fileName;
     ViewHost* viewHost = nullptr;
@@ -269,6 +278,7 @@ private:
     template <typename Catalogue> void ReadCatalogue(const std::string& path, Catalogue& catalogue);
     // The template was opened or saved: it is the last used and the most recent.
     void NoteTemplateFile(const std::string& path);
+    void NoteFileProblems(const TemplateDesc& desc, TemplateReadReport& report, Diagnostics built);
 
     // What the drag under way moves, with where each object stood before it.
     struct DraggedObject {

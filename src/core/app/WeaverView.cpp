@@ -72,6 +72,13 @@ void Weaver::CentreOn(const EditorObject& object) {
               false);
 }
 
+void Weaver::ShowObject(EditorObject& object) {
+    selection.Clear();
+    selection.Add(&object);
+    selection.Recalculate();
+    CentreOn(object);
+}
+
 // The view a canvas starts with: no offset, no zoom and the first font.
 void Weaver::ResetView() {
     CanvasView& canvas = View();

@@ -57,10 +57,13 @@ LineClass Classify(const std::vector<std::string>& words) {
 // braces it held, and only the three section kinds are looked into.
 class GroupStateMachine {
 public:
-    explicit GroupStateMachine(BlockInfo& info) : info_(info) {}
+    GroupStateMachine(BlockInfo& info, GroupReadReport* report) : info_(info), report_(report) {}
 
-    void Feed(const std::vector<std::string>& words) {
+    void Feed(const std::vector<std::string>& words, int line) {
+        line_ = line;
         const LineClass lineClass = Classify(words);
+        if (report_ != nullptr && state_ != State::Outside)
+            NoteSkippedKeyLine(lineClass, words);
         switch (state_) {
         case State::Outside:
             Outside(lineClass);
@@ -77,10 +80,33 @@ public:
         }
     }
 
+    // A section that the file's end leaves open: a dynamic section's
+    // properties are then not stored.
+    void Finish() {
+        if (report_ != nullptr && state_ == State::InDynamic)
+            Note(sectionLine_, Severity::Error, "group-unclosed-section",
+                 "The MCU_H_Dynamic section is never closed; its properties are not read.");
+    }
+
 private:
     enum class State { Outside, InDynamic, InInput, InOutput };
 
+    void Note(int line, Severity severity, const char* code, const std::string& message) {
+        report_->diagnostics.push_back(
+            Diagnostic{report_->file, line, severity, code, message, std::string(), 0});
+    }
+
+    // A Name or Property line in a section is read only with exactly one value.
+    void NoteSkippedKeyLine(LineClass lineClass, const std::vector<std::string>& words) {
+        const bool keyLine = !words.empty() && (words[0] == "Name" || words[0] == "Property");
+        if (lineClass == LineClass::Other && keyLine)
+            Note(line_, Severity::Error, "group-skipped-line",
+                 "A " + words[0] + " line is read only with exactly one value; this one has " +
+                     std::to_string(words.size() - 1) + ", so it is skipped.");
+    }
+
     void Outside(LineClass lineClass) {
+        sectionLine_ = line_;
         if (lineClass == LineClass::Dynamic) {
             currentName_.clear();
             currentList_.clear();
@@ -98,6 +124,10 @@ private:
         } else if (lineClass == LineClass::Property) {
             currentList_.push_back(words[1]);
         } else if (lineClass == LineClass::Close) {
+            if (report_ != nullptr && currentName_.empty())
+                Note(sectionLine_, Severity::Warning, "group-unnamed-dynamic",
+                     "The MCU_H_Dynamic section has no Name line; its properties stand under an "
+                     "empty object name.");
             info_.dynamics[currentName_] = currentList_;
             state_ = State::Outside;
         }
@@ -112,6 +142,10 @@ private:
     }
 
     BlockInfo& info_;
+    GroupReadReport* report_;
+    int line_ = 0;
+    // Where the section under way began.
+    int sectionLine_ = 0;
     State state_ = State::Outside;
     std::string currentName_;
     std::vector<std::string> currentList_;
@@ -138,11 +172,13 @@ std::vector<std::string> SplitGroupLine(const std::string& line) {
     return words;
 }
 
-void ReadGroupStream(BlockInfo& info, std::istream& stream) {
-    GroupStateMachine machine(info);
+void ReadGroupStream(BlockInfo& info, std::istream& stream, GroupReadReport* report) {
+    GroupStateMachine machine(info, report);
     std::string line;
+    int number = 0;
     while (ReadTextLine(stream, line))
-        machine.Feed(SplitGroupLine(line));
+        machine.Feed(SplitGroupLine(line), ++number);
+    machine.Finish();
 }
 
 } // namespace lw

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/TemplateDesc.h"
+#include "document/TemplateReadReport.h"
 
 #include <cstddef>
 #include <istream>
@@ -13,6 +14,9 @@ namespace lw {
 // content is left to whoever builds objects from the description. Answers how
 // many lines held words, whether they made records or not, so that a file
 // of another kind can be told from an empty template.
-std::size_t ReadTemplateDesc(TemplateDesc& desc, std::istream& stream);
+// With a report, every line dropped or read only in part is told there with
+// its line number, and the line of each record is kept.
+std::size_t ReadTemplateDesc(TemplateDesc& desc, std::istream& stream,
+                             TemplateReadReport* report = nullptr);
 
 } // namespace lw

@@ -1,5 +1,6 @@
 #include "operations/TemplateBuilder.h"
 
+#include "diagnostics/Diagnostic.h"
 #include "document/Keywords.h"
 #include "operations/BlockSetPool.h"
 #include "operations/GeneratedNames.h"
@@ -62,13 +63,25 @@ void TemplateBuilder::ShowStop(const std::string& text) {
     prompts_.ShowMessage(text, MessageIcon::Stop);
 }
 
+void TemplateBuilder::Report(std::vector<int> RecordSourceLines::*list, std::size_t index,
+                             const char* code, const std::string& message,
+                             const std::string& object) {
+    if (report_ == nullptr)
+        return;
+    const std::vector<int>& lines = report_->lines->*list;
+    const int line = index < lines.size() ? lines[index] : 0;
+    report_->diagnostics.push_back(
+        Diagnostic{report_->file, line, Severity::Error, code, message, object, 0});
+}
+
 // ---------------------------------------------------------------- phases
 
 void TemplateBuilder::BuildPhases(TemplateDesc& desc, ObjectList* list, GuiHelperPool& helpers) {
     // A phase without a gui helper takes the colour of the phase before it.
     std::int32_t colorIndex = 0;
     BlockSetPool blockSets(desc.blockSets);
-    for (const PhaseDesc& phaseDesc : desc.phases) {
+    for (std::size_t i = 0; i < desc.phases.size(); ++i) {
+        const PhaseDesc& phaseDesc = desc.phases[i];
         Phase* phase = store_.NewPhase();
         phase->name = phaseDesc.name;
         phase->generationType = phaseDesc.generationType;
@@ -78,10 +91,15 @@ void TemplateBuilder::BuildPhases(TemplateDesc& desc, ObjectList* list, GuiHelpe
         phase->allocationType = phaseDesc.allocationType;
         phase->blocksFolder = phaseDesc.blocksFolder;
         PlacePhase(helpers, *phase, colorIndex);
-        TakeBlocks(blockSets, *phase, phaseDesc.blockSetName);
+        TakeBlocks(blockSets, *phase, phaseDesc.blockSetName, i);
         if (phase->blocks.empty()) {
             // The id stays used, so the phases after it keep their numbers.
             ShowStop("Phase without blocks: ignoring");
+            Report(&RecordSourceLines::phases, i, "phase-without-blocks",
+                   "The phase " + Quoted(phaseDesc.name) + " has no block that could be read " +
+                       "from its block set " + Quoted(phaseDesc.blockSetName) +
+                       "; the phase is dropped, and everything that names it with it.",
+                   phaseDesc.name);
             store_.RemoveObject(phase);
             continue;
         }
@@ -93,6 +111,31 @@ void TemplateBuilder::BuildPhases(TemplateDesc& desc, ObjectList* list, GuiHelpe
     for (EditorObject* object : scope) {
         if (Phase* phase = As<Phase>(object))
             ResolveGeometryLinks(*phase, phases);
+    }
+    if (report_ != nullptr)
+        ReportUnknownGeometryLinks(desc, phases);
+}
+
+// A geometry link to a phase that no phase bears is left unset; the marks
+// that stand for "no link" are no names.
+void TemplateBuilder::ReportUnknownGeometryLinks(const TemplateDesc& desc,
+                                                 const NameIndex<Phase>& phases) {
+    for (std::size_t i = 0; i < desc.phases.size(); ++i) {
+        const PhaseDesc& phaseDesc = desc.phases[i];
+        const GenerationType type = phaseDesc.generationType;
+        // A phase that was dropped has been reported for that.
+        if (phases.First(phaseDesc.name) == nullptr)
+            continue;
+        const std::size_t linked = !HasPrimaryLink(type) ? 0 : HasSecondaryLink(type) ? 2 : 1;
+        for (std::size_t j = 0; j < linked && j < phaseDesc.geoParams.size(); ++j) {
+            const std::string& name = phaseDesc.geoParams[j];
+            if (name == "EMPTY" || name == "DELETED" || phases.First(name) != nullptr)
+                continue;
+            Report(&RecordSourceLines::phases, i, "unknown-reference",
+                   "The phase " + Quoted(phaseDesc.name) + " is placed against the phase " +
+                       Quoted(name) + ", which does not exist; that geometry link is left unset.",
+                   phaseDesc.name);
+        }
     }
 }
 
@@ -107,13 +150,19 @@ void TemplateBuilder::PlacePhase(GuiHelperPool& helpers, Phase& phase, std::int3
 // A block set belongs to the first phase that names it: a later phase of the
 // same set finds nothing.
 void TemplateBuilder::TakeBlocks(BlockSetPool& blockSets, Phase& phase,
-                                 const std::string& blockSetName) {
+                                 const std::string& blockSetName, std::size_t index) {
     const BlockSetDesc* set = blockSets.Take(blockSetName);
     if (set == nullptr)
         return;
     for (const auto& [key, reference] : set->blocks) {
         if (EnsureBlockInPool(reference))
             phase.blocks[key] = reference;
+        else
+            Report(&RecordSourceLines::phases, index, "missing-block-file",
+                   "The block file " + Quoted(reference) + " of the phase " + Quoted(phase.name) +
+                       " is missing or cannot be read; the phase loses its block " + Quoted(key) +
+                       ".",
+                   phase.name);
     }
 }
 
@@ -160,14 +209,21 @@ const Phase* TemplateBuilder::TakeGeometryLink(Phase& phase, const NameIndex<Pha
 void TemplateBuilder::BuildLinks(TemplateDesc& desc, ObjectList* list,
                                  std::vector<Link>* madeLinks) {
     const NameIndex<Phase> phases(SearchScope(list));
-    for (const LinkDesc& linkDesc : desc.links) {
-        if (!AddLink(linkDesc, phases, madeLinks))
+    for (std::size_t i = 0; i < desc.links.size(); ++i) {
+        if (!AddLink(desc.links[i], phases, madeLinks, i))
             ShowStop("Error adding link!");
     }
 }
 
 bool TemplateBuilder::AddLink(const LinkDesc& linkDesc, const NameIndex<Phase>& phases,
-                              std::vector<Link>* madeLinks) {
+                              std::vector<Link>* madeLinks, std::size_t index) {
+    const auto lost = [&](const char* code, const std::string& why) {
+        Report(&RecordSourceLines::links, index, code,
+               "The link from " + Quoted(linkDesc.fromPhase + "(" + linkDesc.fromGate + ")") +
+                   " to " + Quoted(linkDesc.toPhase + "(" + linkDesc.toGate + ")") +
+                   " is dropped: " + why + ".",
+               linkDesc.fromPhase);
+    };
     // The first phase of the source's name is the source, and it is not also
     // tried as the destination: a link between namesakes goes to the second
     // of them, and a link from a phase to itself is never found.
@@ -176,14 +232,21 @@ bool TemplateBuilder::AddLink(const LinkDesc& linkDesc, const NameIndex<Phase>& 
                                                        : phases.First(linkDesc.toPhase);
     if (from == nullptr) {
         ShowStop("Can't find From phase for link");
+        lost("unknown-reference", "its source phase does not exist");
         return false;
     }
     if (to == nullptr) {
         ShowStop("Can't find To phase for link");
+        lost("unknown-reference", linkDesc.toPhase == linkDesc.fromPhase
+                                      ? "a link cannot lead from a phase to itself"
+                                      : "its destination phase does not exist");
         return false;
     }
     if (!HasGate(from->outputs, linkDesc.fromGate) || !HasGate(to->inputs, linkDesc.toGate)) {
         ShowStop("Wrong link (can't find corresponding connections in phases)");
+        lost("unknown-gate", !HasGate(from->outputs, linkDesc.fromGate)
+                                 ? "its source phase has no output gate of that name"
+                                 : "its destination phase has no input gate of that name");
         return false;
     }
     from->MarkGateUsed(linkDesc.fromGate, false);
@@ -200,13 +263,19 @@ bool TemplateBuilder::AddLink(const LinkDesc& linkDesc, const NameIndex<Phase>& 
 void TemplateBuilder::BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list,
                                             GuiHelperPool& helpers) {
     const NameIndex<Phase> phases(SearchScope(list));
-    for (const CaseDesc& caseDesc : desc.cases) {
+    for (std::size_t i = 0; i < desc.cases.size(); ++i) {
+        const CaseDesc& caseDesc = desc.cases[i];
         Case* object = store_.NewCase();
         object->name = caseDesc.name;
         for (const std::string& phaseName : caseDesc.phaseNames) {
             Phase* phase = phases.First(phaseName);
-            if (phase == nullptr)
+            if (phase == nullptr) {
+                Report(&RecordSourceLines::cases, i, "unknown-reference",
+                       "The case " + Quoted(caseDesc.name) + " names the phase " +
+                           Quoted(phaseName) + ", which does not exist; the case goes without it.",
+                       caseDesc.name);
                 continue;
+            }
             if (std::find(object->phaseIds.begin(), object->phaseIds.end(), phase->id) ==
                 object->phaseIds.end())
                 object->phaseIds.push_back(phase->id);
@@ -217,7 +286,8 @@ void TemplateBuilder::BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list
         AppendTo(list, object);
     }
     const NameIndex<Case> cases(SearchScope(list));
-    for (const SwitchDesc& switchDesc : desc.switches) {
+    for (std::size_t i = 0; i < desc.switches.size(); ++i) {
+        const SwitchDesc& switchDesc = desc.switches[i];
         Switch* object = store_.NewSwitch();
         object->name = switchDesc.name;
         object->number = switchDesc.number;
@@ -225,8 +295,13 @@ void TemplateBuilder::BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list
         object->planeType = switchDesc.planeType;
         for (const std::string& caseName : switchDesc.caseNames) {
             Case* member = cases.First(caseName);
-            if (member == nullptr)
+            if (member == nullptr) {
+                Report(&RecordSourceLines::switches, i, "unknown-reference",
+                       "The switch " + Quoted(switchDesc.name) + " names the case " +
+                           Quoted(caseName) + ", which does not exist; the switch goes without it.",
+                       switchDesc.name);
                 continue;
+            }
             // Unlike a case's phases, a switch keeps a case named twice.
             object->caseIds.push_back(member->id);
             member->switchId = object->id;
@@ -242,11 +317,18 @@ void TemplateBuilder::BuildCasesAndSwitches(TemplateDesc& desc, ObjectList* list
 // without phase or position, and is not collected.
 void TemplateBuilder::BuildChecks(TemplateDesc& desc, ObjectList* list, GuiHelperPool& helpers) {
     const NameIndex<Phase> phases(SearchScope(list));
-    for (const CheckDesc& checkDesc : desc.checks) {
+    for (std::size_t i = 0; i < desc.checks.size(); ++i) {
+        const CheckDesc& checkDesc = desc.checks[i];
         Check* check = store_.NewCheck();
         Phase* phase = phases.First(checkDesc.phaseName);
-        if (phase == nullptr)
+        if (phase == nullptr) {
+            Report(&RecordSourceLines::checks, i, "unknown-reference",
+                   "The " + checkTypeToKeyword(checkDesc.type) + " check names the phase " +
+                       Quoted(checkDesc.phaseName) +
+                       ", which does not exist; the check is not saved.",
+                   checkDesc.phaseName);
             continue;
+        }
         check->phaseId = phase->id;
         check->type = checkDesc.type;
         check->params = checkDesc.params;
@@ -269,7 +351,8 @@ void TemplateBuilder::BuildActions(TemplateDesc& desc, ObjectList* list, GuiHelp
         if (Action* action = As<Action>(object))
             IndexAction(actions, *action);
     }
-    for (const ActionDesc& actionDesc : desc.actions) {
+    for (std::size_t i = 0; i < desc.actions.size(); ++i) {
+        const ActionDesc& actionDesc = desc.actions[i];
         const ActionRule rule{actionDesc.ruleName, actionDesc.ruleParams, actionDesc.ruleCondition};
         const auto existing =
             actions.find({actionDesc.phaseName, actionDesc.objectName, actionDesc.actionName});
@@ -279,8 +362,14 @@ void TemplateBuilder::BuildActions(TemplateDesc& desc, ObjectList* list, GuiHelp
         }
         Action* action = store_.NewAction();
         Phase* phase = phases.First(actionDesc.phaseName);
-        if (phase == nullptr)
+        if (phase == nullptr) {
+            Report(&RecordSourceLines::actions, i, "unknown-reference",
+                   "The action " + Quoted(actionDesc.actionName) + " names the phase " +
+                       Quoted(actionDesc.phaseName) +
+                       ", which does not exist; the action is not saved.",
+                   actionDesc.phaseName);
             continue;
+        }
         action->phaseId = phase->id;
         action->objectName = actionDesc.objectName;
         action->name = actionDesc.actionName;
@@ -316,11 +405,17 @@ void TemplateBuilder::BuildUnlinkers(TemplateDesc& desc, ObjectList* list, GuiHe
         if (Unlinker* unlinker = As<Unlinker>(object))
             unlinkers.emplace(unlinker->phaseId, unlinker);
     }
-    for (const UnlinkDesc& unlinkDesc : desc.unlinks) {
+    for (std::size_t i = 0; i < desc.unlinks.size(); ++i) {
+        const UnlinkDesc& unlinkDesc = desc.unlinks[i];
         const std::string phaseName = StripSetPrefix(unlinkDesc.blockSetName);
         const Phase* phase = phases.First(phaseName);
-        if (phase == nullptr)
+        if (phase == nullptr) {
+            Report(&RecordSourceLines::unlinks, i, "unknown-reference",
+                   "The unlink line names the phase " + Quoted(phaseName) +
+                       ", which does not exist; the line is dropped.",
+                   phaseName);
             continue;
+        }
         Unlinker*& unlinker = unlinkers[phase->id];
         const bool isNew = unlinker == nullptr;
         if (isNew) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "catalog/BlocksContainer.h"
+#include "diagnostics/Diagnostic.h"
 #include "document/TemplateDesc.h"
+#include "document/TemplateReadReport.h"
 #include "objects/Link.h"
 #include "operations/NameIndex.h"
 #include "operations/NameTriple.h"
@@ -19,6 +21,14 @@ namespace lw {
 class BlockSetPool;
 class GuiHelperPool;
 
+// What a build tells, when asked, about the records it could not use, with
+// the lines they were read from.
+struct BuildReport {
+    std::string file;
+    const RecordSourceLines* lines = nullptr;
+    Diagnostics diagnostics;
+};
+
 // Turns a TemplateDesc, in which everything is named, into objects of the
 // store, which refer to each other by id. A damaged template is built as far
 // as it goes: each record stands for itself, the user is told about the worst
@@ -35,6 +45,9 @@ class GuiHelperPool;
 class TemplateBuilder {
 public:
     TemplateBuilder(ObjectStore& store, BlocksContainer& blockPool, UserPrompts& prompts);
+
+    // Every record or name the build drops is reported there as well.
+    void SetReport(BuildReport* report) { report_ = report; }
 
     // Runs the six builders in their fixed order: each finds the objects of
     // the ones before, and the ids follow that order. `madeLinks`, when
@@ -55,19 +68,23 @@ private:
     // The objects a search walks: the list if given, else the whole store.
     ObjectList SearchScope(const ObjectList* list) const;
     void ShowStop(const std::string& text);
+    void Report(std::vector<int> RecordSourceLines::*list, std::size_t index, const char* code,
+                const std::string& message, const std::string& object);
 
     // Phases.
     static void PlacePhase(GuiHelperPool& helpers, Phase& phase, std::int32_t& colorIndex);
-    void TakeBlocks(BlockSetPool& blockSets, Phase& phase, const std::string& blockSetName);
+    void TakeBlocks(BlockSetPool& blockSets, Phase& phase, const std::string& blockSetName,
+                    std::size_t index);
     bool EnsureBlockInPool(const std::string& reference);
     void TakeGatesFromFirstBlock(Phase& phase);
     static void ResolveGeometryLinks(Phase& phase, const NameIndex<Phase>& phases);
     // Erases the first geometry word and returns the phase it names, if any.
     static const Phase* TakeGeometryLink(Phase& phase, const NameIndex<Phase>& phases);
+    void ReportUnknownGeometryLinks(const TemplateDesc& desc, const NameIndex<Phase>& phases);
 
     // Links.
     bool AddLink(const LinkDesc& linkDesc, const NameIndex<Phase>& phases,
-                 std::vector<Link>* madeLinks);
+                 std::vector<Link>* madeLinks, std::size_t index);
 
     // Actions are found by their phase's name, their object name and name.
     using ActionIndex = std::unordered_map<NameTriple, Action*, NameTripleHash>;
@@ -76,6 +93,7 @@ private:
     ObjectStore& store_;
     BlocksContainer& blockPool_;
     UserPrompts& prompts_;
+    BuildReport* report_ = nullptr;
 };
 
 } // namespace lw

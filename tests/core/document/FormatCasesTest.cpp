@@ -66,6 +66,14 @@ TEST_P(FormatCase, WritesWhatItReadsAsExpected) {
     const std::string actual = TemplateDescText(desc);
     EXPECT_TRUE(actual == expected)
         << "case " << folder << ": " << FirstDifference(expected, actual);
+
+    // Reporting the problems of the lines reads them no differently.
+    std::istringstream again(test::ReadFileBytes(folder + "/input.mt"),
+                             std::ios::in | std::ios::binary);
+    TemplateDesc reported;
+    TemplateReadReport report;
+    ReadTemplateDesc(reported, again, &report);
+    EXPECT_EQ(TemplateDescText(reported), actual) << "case " << folder;
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, FormatCase,

@@ -1,0 +1,15 @@
+blocks_set; blocks_Start; main(scg\0\blocks\air\patrol.group);
+blocks_set; blocks_Home; main(scg\0\blocks\air\landing.group);
+phase; Start; server_setpos(); blocks_Start; ;;
+phase; Home; server_waypoint(); blocks_Home; land;;
+case; Both(Start,Home);
+tlink; Start(done); Home(done);
+gui_helper; Start; 0; 0;
+gui_helper; Home; 600; 0;
+gui_helper; Both; 300; 300;
+tlink; Start(failed); Ghost(done);
+case; More(Start,Home,Ghost);
+gui_helper; More; 300; 600;
+check; Ghost; free();
+phase; After; at(Ghost); blocks_After; clone_location;;
+blocks_set; blocks_After; main(scg\0\blocks\air\landing.group);
