@@ -1,4 +1,4 @@
-// Reads any bytes as a .Group block file.
+// Reads any bytes as a .Group block file, reporting what it skips.
 #include "catalog/GroupReader.h"
 
 #include <cstddef>
@@ -9,6 +9,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::istringstream input(std::string(reinterpret_cast<const char*>(data), size));
     lw::BlockInfo info;
-    lw::ReadGroupStream(info, input);
+    lw::GroupReadReport report;
+    lw::ReadGroupStream(info, input, &report);
     return 0;
 }

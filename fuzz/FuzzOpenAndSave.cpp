@@ -1,7 +1,9 @@
 // The whole way of a template through the editor: the fuzz input is a .mt
 // file in a small data folder held in memory. An editor starts on the folder,
 // opens the file with File Open, saves it elsewhere with Save As, and opens
-// what it saved. Questions are answered No, so nothing stops the sequence.
+// what it saved, with every problem reported as the editor reports them.
+// Questions are answered No, so nothing stops the sequence; a file that holds
+// no template record is not opened, and ends it.
 #include "SmallDataFolder.h"
 #include "app/EditorOptions.h"
 #include "app/FileCommands.h"
@@ -42,11 +44,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     lw::ScriptedFileDialogs dialogs;
     lw::Weaver weaver(prompts, store, disk);
     lw::FileCommands commands(weaver, dialogs);
+    weaver.reportProblems = true;
     weaver.StartUp(kFolder);
 
     dialogs.answers = {kInputPath, kSavedPath, kSavedPath};
     commands.Open();
+    if (weaver.fileName.empty())
+        return 0;
     Require(weaver.fileName == "scg\\fuzzed.mt");
+    weaver.problems.All(weaver, weaver.fileName);
     commands.SaveAs();
     Require(weaver.fileName == "scg\\saved\\copy.mt" && !weaver.undoManager.changed);
     commands.Open();
