@@ -1,7 +1,7 @@
 // The editor's gestures and commands on a large open template: what one
 // click, one band, one step of a drag, a delete of everything with its undo
-// and redo, a paste of a 1,000-phase clipboard and a reload of the blocks
-// cost. The view is zoomed out so that the whole template lies in the window.
+// and redo, a paste of a 1,000-phase clipboard, a reload of the blocks and
+// the recovery copy cost. The view is zoomed out so that the whole template lies in the window.
 #include "support/BenchEditor.h"
 #include "synth/SyntheticTemplate.h"
 
@@ -136,7 +136,21 @@ void BM_CheckDocument(benchmark::State& state) {
     }
 }
 
+// The recovery copy written after a change, as every change of a document
+// with unsaved changes writes it: the export, the text and the atomic
+// replace of the copy and its note.
+void BM_WriteRecoveryCopy(benchmark::State& state) {
+    BenchEditor editor(static_cast<int>(state.range(0)));
+    const std::string folder = SyntheticDataFolder(static_cast<int>(state.range(0))) + "/recovery";
+    Recovery recovery(editor.disk, folder);
+    editor.weaver.SetRecovery(&recovery);
+    for (auto _ : state)
+        editor.weaver.undoManager.MarkChangedForGood();
+    editor.weaver.SetRecovery(nullptr);
+}
+
 BENCHMARK(BM_HitTest)->Apply(AtEverySize);
+BENCHMARK(BM_WriteRecoveryCopy)->Apply(AtEverySize);
 BENCHMARK(BM_CheckDocument)->Apply(AtEverySize);
 BENCHMARK(BM_BandSelect)->Apply(AtEverySize);
 BENCHMARK(BM_DragStep)->Apply(AtEverySize);

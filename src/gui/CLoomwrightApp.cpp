@@ -2,7 +2,10 @@
 
 #include "AppWindowIcon.h"
 #include "CMainFrame.h"
+#include "QtText.h"
 #include "app/AppInfo.h"
+
+#include <QStandardPaths>
 
 CLoomwrightApp::CLoomwrightApp(int& argc, char** argv) : QApplication(argc, argv) {
     setOrganizationName(lw::kOrganizationName);
@@ -16,6 +19,8 @@ CLoomwrightApp::~CLoomwrightApp() = default;
 
 bool CLoomwrightApp::InitInstance() {
     frame_ = std::make_unique<CMainFrame>();
+    frame_->UseRecovery(
+        PathToStdString(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
     if (!frame_->OnCreate())
         return false;
     frame_->show();

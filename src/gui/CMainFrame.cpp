@@ -34,6 +34,11 @@ CMainFrame::CMainFrame(QWidget* parent)
     weaver_.SetPropertyDialogs(&propertyDialogs_);
 }
 
+void CMainFrame::UseRecovery(const std::string& folder) {
+    recovery_ = std::make_unique<lw::Recovery>(fileSystem_, folder);
+    weaver_.SetRecovery(recovery_.get());
+}
+
 bool CMainFrame::OnCreate(const std::string& dataFolder) {
     CreateCanvasArea();
     // Esc and Delete are keys of the canvas: the window hands its focus on.
@@ -222,6 +227,12 @@ void CMainFrame::ShowStatusText(const std::string& text) {
     statusBar()->showMessage(ToQString(text));
 }
 
+// A queued call runs on the next turn of the event loop, after the events
+// already waiting: no timer is involved.
+void CMainFrame::RunWhenIdle(std::function<void()> work) {
+    QMetaObject::invokeMethod(this, std::move(work), Qt::QueuedConnection);
+}
+
 bool CMainFrame::OpenTextFile(const std::string& path) {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(PathToQString(path)));
 }
@@ -232,6 +243,7 @@ void CMainFrame::closeEvent(QCloseEvent* event) {
         return;
     }
     weaver_.SaveOptions();
+    weaver_.DiscardRecoveryCopy();
     optionsStore_.SetWindowGeometry(saveGeometry());
     optionsStore_.Flush();
     event->accept();

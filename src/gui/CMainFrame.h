@@ -27,6 +27,11 @@ class CMainFrame : public QMainWindow, public lw::ViewHost {
 public:
     explicit CMainFrame(QWidget* parent = nullptr);
 
+    // Keeps the document in a recovery copy in this folder against a crash,
+    // and offers a copy left there at start; called before OnCreate. The
+    // program uses the user's application data folder.
+    void UseRecovery(const std::string& folder);
+
     // Builds the window's parts and starts Weaver on the data folder: by
     // default the one two levels above the program.
     bool OnCreate(const std::string& dataFolder = std::string());
@@ -53,6 +58,7 @@ public:
     void ShowCursor(lw::CanvasCursor cursor) override;
     void ShowStatusText(const std::string& text) override;
     bool OpenTextFile(const std::string& path) override;
+    void RunWhenIdle(std::function<void()> work) override;
 
 protected:
     // Asks about unsaved changes first; a close that goes on saves the options.
@@ -77,6 +83,7 @@ private:
     lw::EditorCommands commands_;
     DialogRunner dialogRunner_;
     QtPropertyDialogs propertyDialogs_;
+    std::unique_ptr<lw::Recovery> recovery_;
     CommandActions* actions_ = nullptr;
     FindBar* findBar_ = nullptr;
     ProblemsPanel* problemsPanel_ = nullptr;

@@ -68,3 +68,12 @@ bool QtFileSystem::ReplaceFile(const std::string& path, const std::string& bytes
     }
     return file.commit();
 }
+
+bool QtFileSystem::RemoveFile(const std::string& path) {
+    const QString name = PathToQString(path);
+    return !QFileInfo::exists(name) || QFile::remove(name);
+}
+
+bool QtFileSystem::MakeFolder(const std::string& path) {
+    return QDir().mkpath(PathToQString(path));
+}

@@ -12,4 +12,6 @@ public:
     std::string CanonicalPath(const std::string& path) const override;
     bool IsReadOnly(const std::string& path) const override;
     bool ReplaceFile(const std::string& path, const std::string& bytes) override;
+    bool RemoveFile(const std::string& path) override;
+    bool MakeFolder(const std::string& path) override;
 };

@@ -34,11 +34,15 @@ void QtPrompts::ShowMessage(const std::string& text, lw::MessageIcon icon,
     box.exec();
 }
 
-lw::Answer QtPrompts::Ask(const std::string& question, lw::MessageIcon icon) {
+lw::Answer QtPrompts::Ask(const std::string& question, lw::MessageIcon icon,
+                          lw::QuestionButtons buttons) {
+    const bool cancels = buttons == lw::QuestionButtons::YesNoCancel;
     QMessageBox box(ToQtIcon(icon), lw::kApplicationName, ToQString(question),
-                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, parent_);
+                    QMessageBox::Yes | QMessageBox::No |
+                        (cancels ? QMessageBox::Cancel : QMessageBox::NoButton),
+                    parent_);
     box.setDefaultButton(QMessageBox::Yes);
-    box.setEscapeButton(QMessageBox::Cancel);
+    box.setEscapeButton(cancels ? QMessageBox::Cancel : QMessageBox::No);
     switch (box.exec()) {
     case QMessageBox::Yes:
         return lw::Answer::Yes;

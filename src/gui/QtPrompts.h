@@ -13,7 +13,9 @@ public:
     using lw::UserPrompts::ShowMessage;
     void ShowMessage(const std::string& text, lw::MessageIcon icon,
                      lw::MessageButtons buttons) override;
-    lw::Answer Ask(const std::string& question, lw::MessageIcon icon) override;
+    using lw::UserPrompts::Ask;
+    lw::Answer Ask(const std::string& question, lw::MessageIcon icon,
+                   lw::QuestionButtons buttons) override;
 
 private:
     QWidget* parent_ = nullptr;

@@ -2,6 +2,7 @@
 
 #include "platform/ViewHost.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,15 @@ public:
         return canOpenFiles;
     }
 
+    // Idle work waits until the test runs it, as the window's loop would.
+    void RunWhenIdle(std::function<void()> work) override { idleWork.push_back(std::move(work)); }
+    void RunIdleWork() {
+        auto waiting = std::move(idleWork);
+        idleWork.clear();
+        for (auto& work : waiting)
+            work();
+    }
+
     std::string title;
     std::vector<std::string> titles;
     int repaints = 0;
@@ -31,6 +41,7 @@ public:
     CanvasCursor cursor = CanvasCursor::Arrow;
     std::vector<std::string> openedFiles;
     bool canOpenFiles = true;
+    std::vector<std::function<void()>> idleWork;
 };
 
 } // namespace lw::test

@@ -9,4 +9,7 @@ inline constexpr const char* kApplicationVersion = LOOMWRIGHT_VERSION;
 // The maker's name, under which the user's options are kept.
 inline constexpr const char* kOrganizationName = "Tarnwick";
 
+// The name of a document never saved.
+inline constexpr const char* kUntitledName = "untitled";
+
 } // namespace lw

@@ -6,8 +6,6 @@ namespace lw {
 
 namespace {
 
-const std::string kUntitled = "untitled";
-
 // Until a window gives Weaver its dialogs, every dialog is cancelled.
 class NoPropertyDialogs : public PropertyDialogs {
 public:
@@ -36,7 +34,7 @@ Weaver::~Weaver() {
 
 // A document never saved has no file name to show, and says so.
 std::string Weaver::Title() const {
-    const std::string& name = fileName.empty() ? kUntitled : fileName;
+    const std::string name = fileName.empty() ? kUntitledName : fileName;
     return std::string(kApplicationName) + " - " + name + (undoManager.changed ? "*" : "");
 }
 
@@ -55,6 +53,7 @@ void Weaver::ForgetObject(const EditorObject* object) {
 // checked again from here when next asked for.
 void Weaver::RefreshTitle() {
     problems.DocumentChanged();
+    KeepRecoveryCopy();
     if (viewHost != nullptr)
         viewHost->SetTitle(Title());
 }

@@ -3,6 +3,7 @@
 #include "app/ContextMenu.h"
 #include "app/EditorOptions.h"
 #include "app/RecentFiles.h"
+#include "app/Recovery.h"
 #include "canvas/CanvasView.h"
 #include "canvas/InteractionState.h"
 #include "catalog/BlocksContainer.h"
@@ -184,6 +185,14 @@ public:
     bool CanSave() const { return IsIdle() && undoManager.changed; }
 
     void SetViewHost(ViewHost* host) { viewHost = host; }
+    // Where the open document is kept against a crash; without one, nowhere.
+    void SetRecovery(Recovery* recovery) { recovery_ = recovery; }
+    // The question at start when a run left a recovery copy: Yes opens it
+    // as the template it was a copy of, with its changes unsaved, and true
+    // comes back; No removes it.
+    bool OfferRecoveredDocument();
+    // At a normal exit the changes are saved or given up: the copy goes.
+    void DiscardRecoveryCopy();
     void SetPropertyDialogs(PropertyDialogs* shown) { dialogs_ = shown; }
     // Sets `currentCursor` and shows it.
     void SetCursor(CanvasCursor cursor);
@@ -276,6 +285,9 @@ private:
     void EditWithDialog(T& object, OpenDialog openDialog);
 
     template <typename Catalogue> void ReadCatalogue(const std::string& path, Catalogue& catalogue);
+    // Replaces the document by the file's content, as LoadTemplateFile does,
+    // but gives the document no name.
+    bool ReadTemplateFile(const std::string& path);
     // The template was opened or saved: it is the last used and the most recent.
     void NoteTemplateFile(const std::string& path);
     void NoteFileProblems(const TemplateDesc& desc, TemplateReadReport& report, Diagnostics built);
@@ -287,6 +299,15 @@ private:
         std::int32_t startY;
     };
     std::vector<DraggedObject> dragged_;
+
+    // The copy follows every change of the document: written while it has
+    // unsaved changes, at once or, for a large document, when the window is
+    // idle; removed when it has none.
+    void KeepRecoveryCopy();
+    void WriteRecoveryCopy();
+    Recovery* recovery_ = nullptr;
+    bool recoveryPending_ = false;
+    bool recoveryFailureShown_ = false;
 
     CanvasView ownView_;
     bool viewFollowsFit_ = false;

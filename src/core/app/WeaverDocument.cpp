@@ -19,6 +19,16 @@ void Weaver::ClearDocument() {
 }
 
 bool Weaver::LoadTemplateFile(const std::string& path) {
+    if (!ReadTemplateFile(path))
+        return false;
+    NoteTemplateFile(path);
+    fileName = path;
+    RefreshTitle();
+    Repaint();
+    return true;
+}
+
+bool Weaver::ReadTemplateFile(const std::string& path) {
     auto stream = files.OpenForReading(path);
     if (!stream) {
         // A file that does not open leaves the document empty.
@@ -50,10 +60,6 @@ bool Weaver::LoadTemplateFile(const std::string& path) {
         NoteFileProblems(desc, report, std::move(build.diagnostics));
     // The view is the caller's to fit; until then it is no fitted view.
     viewFollowsFit_ = false;
-    NoteTemplateFile(path);
-    fileName = path;
-    RefreshTitle();
-    Repaint();
     return true;
 }
 

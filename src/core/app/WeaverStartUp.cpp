@@ -18,6 +18,9 @@ void Weaver::StartUp(const std::string& dataFolderPath) {
     undoManager.ClearHistory();
     firstStart_ = !options.Load(optionsStore);
     recentFiles.Load(optionsStore);
+    // Unsaved changes of a run that ended badly come before the last template.
+    if (OfferRecoveredDocument())
+        return;
     if (options.OpenLastUsedTemplateOnStart && !options.LastUsedTemplateName.empty() &&
         LoadTemplateFile(options.LastUsedTemplateName))
         FitAll();
@@ -25,7 +28,8 @@ void Weaver::StartUp(const std::string& dataFolderPath) {
 
 // A newcomer sees a template at once rather than an empty canvas.
 void Weaver::OpenFirstStartTemplate() {
-    if (firstStart_ && fileName.empty() && files.KindOf(kFirstStartTemplate) == PathKind::File &&
+    if (firstStart_ && fileName.empty() && !undoManager.changed &&
+        files.KindOf(kFirstStartTemplate) == PathKind::File &&
         LoadTemplateFile(kFirstStartTemplate))
         FitAll();
 }

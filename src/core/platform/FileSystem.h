@@ -49,6 +49,11 @@ public:
     // the folder to be writable, and must never overrule a file the user has
     // protected.
     virtual bool ReplaceFile(const std::string& path, const std::string& bytes) = 0;
+
+    // Removes a file; true when it is gone, also when there was none.
+    virtual bool RemoveFile(const std::string& path) = 0;
+    // Makes the folder and those above it that are missing; true when it exists.
+    virtual bool MakeFolder(const std::string& path) = 0;
 };
 
 } // namespace lw

@@ -103,4 +103,19 @@ bool MemoryFileSystem::ReplaceFile(const std::string& path, const std::string& b
     return true;
 }
 
+bool MemoryFileSystem::RemoveFile(const std::string& path) {
+    const std::string key = Normalized(path);
+    if (readOnly_.count(ParentOf(key)) != 0 && files_.count(key) != 0)
+        return false;
+    files_.erase(key);
+    return true;
+}
+
+bool MemoryFileSystem::MakeFolder(const std::string& path) {
+    if (KindOf(path) == PathKind::File)
+        return false;
+    AddDirectory(path);
+    return true;
+}
+
 } // namespace lw

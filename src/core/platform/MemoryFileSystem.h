@@ -30,6 +30,8 @@ public:
     std::string CanonicalPath(const std::string& path) const override;
     bool IsReadOnly(const std::string& path) const override;
     bool ReplaceFile(const std::string& path, const std::string& bytes) override;
+    bool RemoveFile(const std::string& path) override;
+    bool MakeFolder(const std::string& path) override;
 
 private:
     std::map<std::string, std::string> files_;

@@ -168,6 +168,18 @@ bool NativeFileSystem::ReplaceFile(const std::string& path, const std::string& b
     return replaced;
 }
 
+bool NativeFileSystem::RemoveFile(const std::string& path) {
+    std::error_code error;
+    fs::remove(fs::u8path(path), error);
+    return !error;
+}
+
+bool NativeFileSystem::MakeFolder(const std::string& path) {
+    std::error_code error;
+    fs::create_directories(fs::u8path(path), error);
+    return fs::is_directory(fs::u8path(path), error);
+}
+
 std::string CurrentExecutablePath(const char* argv0) {
     std::error_code error;
     const fs::path self = fs::read_symlink("/proc/self/exe", error);

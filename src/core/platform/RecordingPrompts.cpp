@@ -7,8 +7,9 @@ void RecordingPrompts::ShowMessage(const std::string& text, MessageIcon icon,
     log_.push_back({text, icon, false, buttons});
 }
 
-Answer RecordingPrompts::Ask(const std::string& question, MessageIcon icon) {
-    log_.push_back({question, icon, true});
+Answer RecordingPrompts::Ask(const std::string& question, MessageIcon icon,
+                             QuestionButtons buttons) {
+    log_.push_back({question, icon, true, MessageButtons::Ok, buttons});
     if (answers_.empty())
         return fallback_;
     const Answer answer = answers_.front();

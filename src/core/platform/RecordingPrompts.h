@@ -17,13 +17,15 @@ public:
         MessageIcon icon;
         bool isQuestion;
         MessageButtons buttons = MessageButtons::Ok;
+        QuestionButtons questionButtons = QuestionButtons::YesNoCancel;
     };
 
     explicit RecordingPrompts(Answer fallback = Answer::Cancel) : fallback_(fallback) {}
 
     using UserPrompts::ShowMessage;
     void ShowMessage(const std::string& text, MessageIcon icon, MessageButtons buttons) override;
-    Answer Ask(const std::string& question, MessageIcon icon) override;
+    using UserPrompts::Ask;
+    Answer Ask(const std::string& question, MessageIcon icon, QuestionButtons buttons) override;
 
     void QueueAnswer(Answer answer) { answers_.push_back(answer); }
 

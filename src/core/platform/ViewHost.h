@@ -3,6 +3,7 @@
 #include "canvas/InteractionState.h"
 #include "objects/ScreenRect.h"
 
+#include <functional>
 #include <string>
 
 namespace lw {
@@ -21,6 +22,10 @@ public:
     virtual void CapturePointer(bool /*capture*/) {}
     // Shows this cursor while the pointer is over the canvas.
     virtual void ShowCursor(CanvasCursor cursor) = 0;
+    // Runs the work once the window has handled what is waiting, on the next
+    // turn of its event loop; several works asked for before then all run
+    // there. Without a loop, at once.
+    virtual void RunWhenIdle(std::function<void()> work) { work(); }
     // Shows a short word in the status bar, such as why a command did nothing.
     virtual void ShowStatusText(const std::string& /*text*/) {}
     // Hands a text file the program wrote, such as a log, to the user's
