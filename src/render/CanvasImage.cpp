@@ -6,7 +6,7 @@
 namespace lw {
 
 QImage PaintCanvasImage(const Weaver& weaver, const ViewTransform& view, const CanvasFont& font,
-                        QSize size, qreal devicePixelRatio) {
+                        QSize size, qreal devicePixelRatio, const SceneOverlay& overlay) {
     QImage image(size * devicePixelRatio, QImage::Format_RGB32);
     if (image.isNull())
         return image;
@@ -14,6 +14,11 @@ QImage PaintCanvasImage(const Weaver& weaver, const ViewTransform& view, const C
     QPainter painter(&image);
     QPainterSurface surface(painter);
     PaintCanvas(surface, weaver, size.width(), size.height(), view, font);
+    if (overlay) {
+        surface.SelectFont(font);
+        overlay(surface, view);
+        surface.Finish();
+    }
     painter.end();
     return image;
 }

@@ -45,24 +45,28 @@ int ViewOffset(std::int32_t edge, float scale, int margin) {
 
 } // namespace
 
-ScreenRect SceneExtent(const Weaver& weaver, const ViewTransform& view, const CanvasFont& font) {
+ScreenRect SceneExtent(const Weaver& weaver, const ViewTransform& view, const CanvasFont& font,
+                       const SceneOverlay& overlay) {
     ExtentSurface surface;
     surface.SelectFont(font);
     weaver.PaintScene(surface, view.viewX, view.viewY, view.scale);
+    if (overlay)
+        overlay(surface, view);
     return surface.covered;
 }
 
-SceneFrame FrameWholeScene(const Weaver& weaver, float scale, const CanvasFont& font, int margin) {
+SceneFrame FrameWholeScene(const Weaver& weaver, float scale, const CanvasFont& font, int margin,
+                           const SceneOverlay& overlay) {
     SceneFrame frame;
     frame.view.scale = scale;
     frame.width = frame.height = 2 * std::int64_t{margin};
-    const ScreenRect atOrigin = SceneExtent(weaver, frame.view, font);
+    const ScreenRect atOrigin = SceneExtent(weaver, frame.view, font, overlay);
     if (atOrigin.IsEmpty())
         return frame;
     frame.view.viewX = ViewOffset(atOrigin.left, scale, margin);
     frame.view.viewY = ViewOffset(atOrigin.top, scale, margin);
     // Measured again, as truncation may move the scene by a pixel.
-    const ScreenRect moved = SceneExtent(weaver, frame.view, font);
+    const ScreenRect moved = SceneExtent(weaver, frame.view, font, overlay);
     frame.width = std::int64_t{moved.right} + margin;
     frame.height = std::int64_t{moved.bottom} + margin;
     return frame;

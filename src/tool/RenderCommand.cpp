@@ -1,16 +1,20 @@
 #include "RenderCommand.h"
 
 #include "CanvasImage.h"
+#include "DiffCommand.h"
 #include "SceneExtent.h"
 #include "TemplateCommands.h"
 #include "ToolArguments.h"
 #include "ToolSession.h"
+#include "canvas/DiffOverlay.h"
+#include "diff/DocumentDiff.h"
 
 #include <QFile>
 #include <QGuiApplication>
 #include <QSaveFile>
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 #include <sstream>
 
 namespace {
@@ -73,10 +77,11 @@ bool WritePng(const QImage& image, const std::string& path) {
 
 // Draws the whole scene into the PNG file `out`; false, with the reason
 // printed, for a picture too large to make or one that cannot be written.
-bool WritePicture(const lw::Weaver& weaver, float scale, const std::string& out) {
+bool WritePicture(const lw::Weaver& weaver, float scale, const std::string& out,
+                  const lw::SceneOverlay& overlay) {
     // A canvas at scale 1 has never been zoomed; at any other it has.
     const lw::CanvasFont font = lw::CanvasFontAt(scale, scale != 1.0f);
-    const lw::SceneFrame frame = lw::FrameWholeScene(weaver, scale, font, kMargin);
+    const lw::SceneFrame frame = lw::FrameWholeScene(weaver, scale, font, kMargin, overlay);
     if (frame.width > kMaxSide || frame.height > kMaxSide ||
         frame.width * frame.height > kMaxPixels) {
         std::cerr << "loomwright-tool: the picture would be " << frame.width << " by "
@@ -84,7 +89,7 @@ bool WritePicture(const lw::Weaver& weaver, float scale, const std::string& out)
         return false;
     }
     const QSize size(static_cast<int>(frame.width), static_cast<int>(frame.height));
-    const QImage image = lw::PaintCanvasImage(weaver, frame.view, font, size);
+    const QImage image = lw::PaintCanvasImage(weaver, frame.view, font, size, 1.0, overlay);
     if (image.isNull() || !WritePng(image, out)) {
         std::cerr << "loomwright-tool: can't write the picture " << out << "\n";
         return false;
@@ -139,7 +144,19 @@ int RunRenderCommand(const ToolArguments& arguments, const char* usage) {
     // The session stores no options, so all of them may be replaced by the
     // ones that choose the layers.
     weaver.options = layers;
-    if (!WritePicture(weaver, scale, arguments.positional[1]))
+    lw::SceneOverlay overlay;
+    std::unique_ptr<ToolSession> older;
+    const auto oldTemplate = arguments.values.find(kDiffOption);
+    if (oldTemplate != arguments.values.end()) {
+        older = std::make_unique<ToolSession>(arguments.dataFolder);
+        if (!LoadForComparison(*older, oldTemplate->second))
+            return kFailure;
+        overlay = [diff = lw::CompareDocuments(older->weaver, weaver), &older,
+                   &weaver](lw::DrawingSurface& surface, const lw::ViewTransform& view) {
+            lw::PaintDiffOverlay(surface, diff, older->weaver, weaver, view);
+        };
+    }
+    if (!WritePicture(weaver, scale, arguments.positional[1], overlay))
         return kFailure;
     return messages.empty() ? kNoMessage : kMessageShown;
 }

@@ -1,5 +1,6 @@
 #include "ToolCommands.h"
 
+#include "DiffCommand.h"
 #include "GenerateCommand.h"
 #include "InfoCommand.h"
 #include "RenderCommand.h"
@@ -22,6 +23,9 @@ int Reload(const ToolArguments& arguments, const char*) {
 }
 int Replay(const ToolArguments& arguments, const char*) {
     return RunReplayCommand(arguments, std::cout);
+}
+int Diff(const ToolArguments& arguments, const char*) {
+    return RunDiffCommand(arguments, std::cout);
 }
 int Generate(const ToolArguments& arguments, const char*) {
     return RunGenerateCommand(arguments, std::cout);
@@ -93,14 +97,29 @@ const std::vector<ToolCommand>& ToolCommands() {
          2,
          2,
          Reload},
+        {"diff",
+         "  diff [--data DIR] [--format text|json] OLD NEW\n"
+         "           load both templates as the editor opens them and list how NEW\n"
+         "           differs from OLD by object names: phases, cases and switches\n"
+         "           added, removed, renamed, moved and changed (which fields), their\n"
+         "           checks, actions and unlinkers, and the links; the order of the\n"
+         "           lines, spacing, line ends and comments do not count; exit status\n"
+         "           0 when the same, 1 when they differ, 2 when one cannot be read\n",
+         {kFormatOption},
+         {},
+         2,
+         2,
+         Diff},
         {"render",
-         "  render [--data DIR] [--layers LIST] [--scale S] IN OUT.png\n"
+         "  render [--data DIR] [--layers LIST] [--scale S] [--diff OLD] IN OUT.png\n"
          "           load IN as the editor opens it, print the messages, and draw the\n"
          "           whole template as the canvas shows it into the PNG picture OUT;\n"
          "           LIST is a comma-separated choice of io, cases, checks, actions,\n"
          "           geometry and all (the default), S the zoom from 0.01 to 2\n"
-         "           (default 1); needs no display\n",
-         {kLayersOption, kScaleOption},
+         "           (default 1); with --diff, what differs from the template OLD is\n"
+         "           marked: added green, changed orange, moved blue, removed dashed\n"
+         "           grey where it stood; needs no display\n",
+         {kLayersOption, kScaleOption, kDiffOption},
          {},
          2,
          2,
