@@ -40,8 +40,9 @@ void FindRenames(const DocumentFacts& older, const DocumentFacts& newer, const s
         if (object.kind == kind && older.objects.count(key) == 0)
             added.push_back(&object);
     }
-    for (const auto& [key, object] : older.objects) {
-        if (object.kind != kind || newer.objects.count(key) != 0)
+    for (const auto& entry : older.objects) {
+        const ObjectFacts& object = entry.second;
+        if (object.kind != kind || newer.objects.count(entry.first) != 0)
             continue;
         const auto match = std::find_if(added.begin(), added.end(), [&](const ObjectFacts* a) {
             return a != nullptr && SameButForName(object, *a);
