@@ -6,6 +6,8 @@
 # build-fuzz/artifacts/. CI runs it with 60 seconds a harness.
 #
 #   scripts/run-fuzzers.sh [seconds-per-harness]      (default 60)
+#
+# FUZZ_ONLY="FuzzGroupReader FuzzModelsConfig" runs those harnesses alone.
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 SECONDS_PER_HARNESS="${1:-60}"
@@ -16,6 +18,13 @@ ARTIFACTS_DIR="$FUZZ_DIR/artifacts"
 HARNESSES=(FuzzTemplateReader:mt FuzzOpenAndSave:mt FuzzGroupReader:group
            FuzzModelsConfig:models FuzzActionsConfig:actions FuzzLoomwrightIni:ini
            FuzzReplayScript:replay)
+if [ -n "${FUZZ_ONLY:-}" ]; then
+    chosen=()
+    for entry in "${HARNESSES[@]}"; do
+        [[ " $FUZZ_ONLY " == *" ${entry%%:*} "* ]] && chosen+=("$entry")
+    done
+    HARNESSES=("${chosen[@]}")
+fi
 
 PACKAGES=(clang libclang-rt-14-dev)
 install_missing_packages

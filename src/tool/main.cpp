@@ -5,6 +5,10 @@
 
 #include <algorithm>
 #include <iostream>
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
 #include <string>
 #include <vector>
 
@@ -36,6 +40,12 @@ int PrintHelp(const std::vector<std::string>& topics) {
 } // namespace
 
 int main(int argc, char** argv) {
+#ifdef _WIN32
+    // What the tool prints is the same bytes on every platform, so that its
+    // output can be compared and kept in files: no "\r" is put before "\n".
+    _setmode(_fileno(stdout), _O_BINARY);
+    _setmode(_fileno(stderr), _O_BINARY);
+#endif
     const std::vector<std::string> words(argv + 1, argv + argc);
     if (words.empty())
         return UsageError("a command is needed", FullUsage());

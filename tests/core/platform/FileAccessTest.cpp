@@ -1,7 +1,10 @@
 #include "platform/FileAccess.h"
 
 #include "platform/MemoryFileSystem.h"
+#include "platform/NativeFileSystem.h"
 
+#include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 
 using namespace lw;
@@ -75,4 +78,38 @@ TEST_F(FileAccessTest, ListingsAreSortedByName) {
     EXPECT_EQ(entries[1].name, "Patrol.Group");
     EXPECT_EQ(entries[2].name, "zeppelins");
     EXPECT_TRUE(entries[2].isDirectory);
+}
+
+// The data folder as the platform spells it (on Windows with its drive
+// letter and "\"), and names as the files give them, with "\" and in another
+// case: on Linux the names are looked up without regard to case, on Windows
+// the file system does that itself.
+TEST(NativeFileAccess, TheDataFolderInThePlatformsOwnSpellingFindsEveryName) {
+    namespace fs = std::filesystem;
+    const fs::path root = fs::temp_directory_path() / "loomwright-native-access";
+    fs::remove_all(root);
+    fs::create_directories(root / "Data" / "scg" / "Blocks");
+    std::ofstream(root / "Data" / "scg" / "Blocks" / "Patrol.Group") << "patrol";
+    NativeFileSystem disk;
+    FileAccess files{disk};
+    files.SetBaseFolder((root / "Data").make_preferred().u8string());
+
+    EXPECT_EQ(Content(files, "scg\\blocks\\patrol.group"), "patrol");
+    EXPECT_EQ(Content(files, "SCG\\Blocks\\Patrol.Group"), "patrol");
+    EXPECT_EQ(Content(files, (root / "data" / "SCG" / "blocks" / "patrol.group").u8string()),
+              "patrol");
+    EXPECT_EQ(files.KindOf("scg\\blocks"), PathKind::Directory);
+    EXPECT_EQ(files.KindOf("scg\\blocks\\missing.group"), PathKind::Missing);
+    const std::vector<DirectoryEntry> listed = files.ListDirectory("Scg\\BLOCKS");
+    ASSERT_EQ(listed.size(), 1u);
+    EXPECT_EQ(listed[0].name, "Patrol.Group");
+    fs::remove_all(root);
+}
+
+// Drive letters and shares are absolute whichever separator they are
+// written with; the data folder is not put in front of them.
+TEST(NativeFileAccess, DriveLettersAndSharesAreAbsolute) {
+    EXPECT_TRUE(IsAbsolutePath(ToForwardSlashes("C:\\Sim\\data\\scg\\a.mt")));
+    EXPECT_TRUE(IsAbsolutePath(ToForwardSlashes("\\\\server\\sim\\a.mt")));
+    EXPECT_FALSE(IsAbsolutePath(ToForwardSlashes("scg\\a.mt")));
 }
