@@ -1,8 +1,5 @@
 #include "canvas/DiffOverlay.h"
 
-#include "objects/Case.h"
-#include "objects/Switch.h"
-
 namespace lw {
 
 namespace {
@@ -29,22 +26,15 @@ ScreenRect RectOf(const EditorObject& object, const ViewTransform& view) {
     return object.GetScreenRect(view.viewX, view.viewY, view.scale);
 }
 
-std::string NameOf(const EditorObject& object) {
-    if (const auto* phase = As<Phase>(&object))
-        return phase->name;
-    if (const auto* found = As<Case>(&object))
-        return found->name;
-    if (const auto* found = As<Switch>(&object))
-        return found->name;
-    return std::string();
-}
-
-void PaintRemoved(DrawingSurface& surface, const EditorObject& object, const ViewTransform& view) {
+// A removed phase, case or switch is named; a check, an action or an
+// unlinker is too small to hold its name.
+void PaintRemoved(DrawingSurface& surface, const EditorObject& object, const std::string& name,
+                  const ViewTransform& view) {
     const ScreenRect rect = RectOf(object, view);
     surface.SelectPen(Pen{PenStyle::Dash, 1, kRemoved});
     Outline(surface, rect);
     const Rgb before = surface.SetTextColour(kRemoved);
-    surface.DrawText(NameOf(object), rect, TextCentre | TextVerticalCentre | TextSingleLine);
+    surface.DrawText(name, rect, TextCentre | TextVerticalCentre | TextSingleLine);
     surface.SetTextColour(before);
 }
 
@@ -55,7 +45,7 @@ void PaintDiffOverlay(DrawingSurface& surface, const DocumentDiff& diff, const O
     for (const ObjectDiff& object : diff.objects) {
         if (object.removed) {
             if (const EditorObject* was = older.FindObject(object.oldId))
-                PaintRemoved(surface, *was, view);
+                PaintRemoved(surface, *was, object.owner.empty() ? object.name : "", view);
             continue;
         }
         const EditorObject* is = newer.FindObject(object.newId);

@@ -1,6 +1,7 @@
 #include "diff/DiffListing.h"
 
 #include "text/JsonString.h"
+#include "text/Text.h"
 
 #include <set>
 
@@ -10,13 +11,6 @@ namespace {
 
 std::string Signed(std::int32_t value) {
     return (value >= 0 ? "+" : "") + std::to_string(value);
-}
-
-std::string Joined(const std::vector<std::string>& words) {
-    std::string text;
-    for (const std::string& word : words)
-        text += (text.empty() ? "" : ", ") + word;
-    return text;
 }
 
 // What differs about one object, one fact a line.
@@ -31,7 +25,7 @@ std::vector<std::string> Facts(const ObjectDiff& diff) {
     if (diff.moved)
         facts.push_back("moved by " + Signed(diff.dx) + ", " + Signed(diff.dy));
     if (!diff.changedFields.empty())
-        facts.push_back("changed " + Joined(diff.changedFields));
+        facts.push_back("changed " + Joined(diff.changedFields, ", "));
     return facts;
 }
 

@@ -7,6 +7,7 @@
 #include "objects/Phase.h"
 #include "objects/Switch.h"
 #include "objects/Unlinker.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <optional>
@@ -23,13 +24,6 @@ const std::string& ObjectFacts::Field(const std::string& fieldName) const {
 }
 
 namespace {
-
-std::string Joined(const std::vector<std::string>& words, const char* separator = ",") {
-    std::string text;
-    for (std::size_t i = 0; i < words.size(); ++i)
-        text += (i == 0 ? "" : separator) + words[i];
-    return text;
-}
 
 class Describer {
 public:

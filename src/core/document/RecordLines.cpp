@@ -1,22 +1,13 @@
 #include "document/RecordLines.h"
 
 #include "document/Keywords.h"
+#include "text/Text.h"
 
 #include <vector>
 
 namespace lw {
 
 namespace {
-
-std::string Joined(const std::vector<std::string>& items) {
-    std::string text;
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (i > 0)
-            text += ',';
-        text += items[i];
-    }
-    return text;
-}
 
 // A check's helper is told apart by its object name and names its phase and
 // check keyword; an action's names its phase and object; a phase's carries

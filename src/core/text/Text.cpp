@@ -30,4 +30,11 @@ bool EqualsIgnoringCase(const std::string& a, const std::string& b) {
     return a.size() == b.size() && LowerCase(a) == LowerCase(b);
 }
 
+std::string Joined(const std::vector<std::string>& words, const char* separator) {
+    std::string text;
+    for (std::size_t i = 0; i < words.size(); ++i)
+        text += (i == 0 ? "" : separator) + words[i];
+    return text;
+}
+
 } // namespace lw

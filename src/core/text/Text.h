@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace lw {
 
@@ -16,5 +17,8 @@ double AtofText(const std::string& text);
 std::string LowerCase(std::string text);
 
 bool EqualsIgnoringCase(const std::string& a, const std::string& b);
+
+// The words one after the other with the separator between them.
+std::string Joined(const std::vector<std::string>& words, const char* separator = ",");
 
 } // namespace lw
