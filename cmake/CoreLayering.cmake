@@ -1,9 +1,10 @@
-# The core library is plain standard C++. Two guards keep it that way:
-# the configure step refuses any core source that includes a Qt header, and
-# assert_core_has_no_qt() (called after the core target exists) refuses any
-# Qt library among its link dependencies.
-function(assert_core_sources_have_no_qt core_dir)
-    file(GLOB_RECURSE sources "${core_dir}/*.h" "${core_dir}/*.cpp")
+# The model and the editor libraries are plain standard C++, and the model
+# knows nothing of the editor above it. Guards keep it that way: the
+# configure step refuses a source that includes a Qt header, and a model
+# source that includes a header of an editor folder; assert_has_no_qt()
+# refuses any Qt library among a target's link dependencies.
+function(assert_sources_have_no_qt dir)
+    file(GLOB_RECURSE sources "${dir}/*.h" "${dir}/*.cpp")
     foreach(source IN LISTS sources)
         file(STRINGS "${source}" qt_includes REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"](Q[A-Za-z]|qt)")
         if(qt_includes)
@@ -12,7 +13,27 @@ function(assert_core_sources_have_no_qt core_dir)
     endforeach()
 endfunction()
 
-function(assert_core_has_no_qt target)
+# Every folder of the editor (app, undo, seams, ...) is a prefix that no
+# model source may include.
+function(assert_model_sources_include_no_editor model_dir editor_dir)
+    file(GLOB editor_folders RELATIVE "${editor_dir}" "${editor_dir}/*")
+    file(GLOB_RECURSE sources "${model_dir}/*.h" "${model_dir}/*.cpp")
+    foreach(folder IN LISTS editor_folders)
+        if(NOT IS_DIRECTORY "${editor_dir}/${folder}")
+            continue()
+        endif()
+        foreach(source IN LISTS sources)
+            file(STRINGS "${source}" editor_includes
+                 REGEX "^[ \t]*#[ \t]*include[ \t]*\"${folder}/")
+            if(editor_includes)
+                message(FATAL_ERROR
+                    "the model must not include the editor: ${source}: ${editor_includes}")
+            endif()
+        endforeach()
+    endforeach()
+endfunction()
+
+function(assert_has_no_qt target)
     get_target_property(libs ${target} LINK_LIBRARIES)
     if(libs)
         foreach(lib IN LISTS libs)

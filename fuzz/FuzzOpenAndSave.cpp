@@ -11,7 +11,7 @@
 #include "platform/MemoryFileSystem.h"
 #include "platform/MemoryOptionsStore.h"
 #include "platform/RecordingPrompts.h"
-#include "platform/ScriptedFileDialogs.h"
+#include "seams/ScriptedFileDialogs.h"
 
 #include <cstddef>
 #include <cstdint>

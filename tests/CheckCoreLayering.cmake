@@ -1,7 +1,10 @@
-# Run as a test: fails when a core source includes Qt, or when a program built
-# from core alone depends on a Qt library at run time.
+# Run as a test: fails when a model or editor source includes Qt, when a
+# model source includes the editor, or when a program built from them alone
+# depends on a Qt library at run time.
 include(${CMAKE_CURRENT_LIST_DIR}/../cmake/CoreLayering.cmake)
-assert_core_sources_have_no_qt(${CORE_DIR})
+assert_sources_have_no_qt(${MODEL_DIR})
+assert_sources_have_no_qt(${EDITOR_DIR})
+assert_model_sources_include_no_editor(${MODEL_DIR} ${EDITOR_DIR})
 
 string(REPLACE "," ";" programs "${CORE_ONLY_PROGRAMS}")
 find_program(LDD ldd)
@@ -16,4 +19,4 @@ if(LDD)
         endif()
     endforeach()
 endif()
-message(STATUS "core has no Qt dependency")
+message(STATUS "the model and the editor have no Qt dependency; the model includes no editor")

@@ -8,7 +8,7 @@
 #include "QtPropertyDialogs.h"
 #include "app/EditorCommands.h"
 #include "app/Weaver.h"
-#include "platform/ViewHost.h"
+#include "seams/ViewHost.h"
 
 #include <QMainWindow>
 

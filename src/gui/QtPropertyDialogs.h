@@ -1,8 +1,8 @@
 #pragma once
 
 #include "dialogs/DialogRunner.h"
-#include "platform/PropertyDialogs.h"
 #include "platform/UserPrompts.h"
+#include "seams/PropertyDialogs.h"
 
 class QWidget;
 

@@ -7,8 +7,8 @@
 #include "app/CanvasInput.h"
 #include "app/EditorCommands.h"
 #include "canvas/CanvasView.h"
-#include "platform/ScriptedFileDialogs.h"
-#include "platform/ScriptedPropertyDialogs.h"
+#include "seams/ScriptedFileDialogs.h"
+#include "seams/ScriptedPropertyDialogs.h"
 
 #include <algorithm>
 #include <deque>
@@ -190,7 +190,7 @@ private:
         std::string selection;
         for (const lw::EditorObject* member : weaver.selection.members)
             selection += (selection.empty() ? "" : ", ") + SelectedName(*member);
-        return "state=" + std::to_string(weaver.interactionState) + " selection=[" + selection +
+        return "state=" + std::to_string(weaver.Gesture().Number()) + " selection=[" + selection +
                "] changed=" + std::to_string(weaver.undoManager.changed ? 1 : 0) +
                " undo=" + std::to_string(weaver.undoManager.undoStack.size()) +
                " redo=" + std::to_string(weaver.undoManager.redoStack.size()) + " caption=\"" +

@@ -2,7 +2,7 @@
 #include "ScriptedDialogRunner.h"
 #include "app/CanvasInput.h"
 #include "app/EditorCommands.h"
-#include "platform/ScriptedFileDialogs.h"
+#include "seams/ScriptedFileDialogs.h"
 #include "support/SampleEditor.h"
 
 #include <QCalendarWidget>

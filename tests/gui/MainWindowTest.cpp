@@ -131,7 +131,7 @@ private slots:
         Drag(view, Screen(150, 150), Screen(700, 1150));
         QCOMPARE(Selected(), (QStringList{"PlayerStart", "EscortLeg"}));
         QVERIFY(weaver.undoManager.undoStack.empty());
-        QCOMPARE(weaver.interactionState, int(lw::StateIdle));
+        QCOMPARE(weaver.Gesture().Number(), int(lw::InteractionState::StateIdle));
     }
 
     void aDragIsOneCommandUndoneAndRedoneByMenuAndKeys() {
@@ -274,7 +274,7 @@ private slots:
         auto* addPhase = frame->actions().Toolbar()->widgetForAction(
             frame->actions().Action(CommandId::AddPhase));
         qobject_cast<QToolButton*>(addPhase)->click();
-        QCOMPARE(frame->weaver().interactionState, int(lw::StatePlacePhase));
+        QCOMPARE(frame->weaver().Gesture().Number(), int(lw::InteractionState::StatePlacePhase));
         QCOMPARE(view->cursor().shape(), Qt::BitmapCursor);
         for (CommandId command : idleOnly)
             QVERIFY(!Enabled(command));
@@ -285,10 +285,10 @@ private slots:
         QVERIFY(Enabled(CommandId::ViewZoomFit));
         // A disabled key does nothing either: no question about the changes.
         QTest::keyClick(frame.get(), Qt::Key_N, Qt::ControlModifier);
-        QCOMPARE(frame->weaver().interactionState, int(lw::StatePlacePhase));
+        QCOMPARE(frame->weaver().Gesture().Number(), int(lw::InteractionState::StatePlacePhase));
 
         Click(view, QPoint(500, 600));
-        QCOMPARE(frame->weaver().interactionState, int(lw::StateIdle));
+        QCOMPARE(frame->weaver().Gesture().Number(), int(lw::InteractionState::StateIdle));
         QCOMPARE(view->cursor().shape(), Qt::ArrowCursor);
         QVERIFY(frame->weaver().FindPhaseByName("NewPhase") != nullptr);
         for (CommandId command : idleOnly)
@@ -346,7 +346,7 @@ private slots:
                 closer.start(10);
                 frame->actions().Action(*entry.command)->trigger();
                 QTest::keyClick(view, Qt::Key_Escape);
-                QCOMPARE(frame->weaver().interactionState, int(lw::StateIdle));
+                QCOMPARE(frame->weaver().Gesture().Number(), int(lw::InteractionState::StateIdle));
             }
         }
         QVERIFY(frame->isVisible());
@@ -368,22 +368,22 @@ private slots:
         // as far apart as the two points.
         SendMouse(view, QEvent::MouseMove, QPoint(600, 650), Qt::NoButton, Qt::NoButton);
         QTest::keyClick(frame.get(), Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(weaver.interactionState, int(lw::StateIdle));
+        QCOMPARE(weaver.Gesture().Number(), int(lw::InteractionState::StateIdle));
         const int firstX = weaver.objects.back()->posX;
         const std::size_t before = weaver.objects.size();
         QTest::keyClick(frame.get(), Qt::Key_Insert, Qt::ShiftModifier);
-        QCOMPARE(weaver.interactionState, int(lw::StatePlaceTemplate));
+        QCOMPARE(weaver.Gesture().Number(), int(lw::InteractionState::StatePlaceTemplate));
         QCOMPARE(view->cursor().shape(), Qt::BitmapCursor);
         Click(view, QPoint(300, 650));
         QVERIFY(weaver.objects.size() > before);
         const int apart = firstX - weaver.objects.back()->posX;
         QVERIFY(qAbs(apart - (view->WorldX(600) - view->WorldX(300))) <= 1);
-        QCOMPARE(weaver.interactionState, int(lw::StateIdle));
+        QCOMPARE(weaver.Gesture().Number(), int(lw::InteractionState::StateIdle));
         QCOMPARE(view->cursor().shape(), Qt::ArrowCursor);
 
         Click(view, At("EscortLeg"));
         QTest::keyClick(frame.get(), Qt::Key_T, Qt::ShiftModifier);
-        QCOMPARE(weaver.interactionState, int(lw::StatePrimaryLink));
+        QCOMPARE(weaver.Gesture().Number(), int(lw::InteractionState::StatePrimaryLink));
         QTest::keyClick(view, Qt::Key_Escape);
         QTest::keyClick(frame.get(), Qt::Key_Delete, Qt::ShiftModifier);
         QVERIFY(weaver.FindPhaseByName("EscortLeg") == nullptr);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ViewHost.h"
+#include "seams/ViewHost.h"
 
 #include <functional>
 #include <string>

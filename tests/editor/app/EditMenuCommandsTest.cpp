@@ -1,0 +1,106 @@
+#include "app/EditMenuCommands.h"
+
+#include "app/FileCommands.h"
+#include "seams/ScriptedFileDialogs.h"
+#include "support/SampleEditor.h"
+
+#include <gtest/gtest.h>
+
+using namespace lw;
+
+namespace {
+
+const std::string kData = test::SampleEditor::kData;
+
+class EditMenuCommandsTest : public ::testing::Test {
+protected:
+    void SetUp() override { e.Open("scg\\sample_small.mt"); }
+
+    test::SampleEditor e;
+    Weaver& weaver = e.weaver;
+    ScriptedFileDialogs dialogs;
+    FileCommands files{weaver, dialogs};
+    EditMenuCommands edit{weaver, files};
+};
+
+} // namespace
+
+TEST_F(EditMenuCommandsTest, CutDeletesTheSelectionEvenWhenTheClipboardCannotBeWritten) {
+    e.disk.AddFile(kData + "/scg/clipboard.mt", "");
+    e.disk.MakeReadOnly(kData + "/scg/clipboard.mt");
+    const std::size_t objects = weaver.objects.size();
+    e.Select("ReturnHome");
+    edit.Cut();
+    EXPECT_EQ(e.prompts.MessageTexts(), std::vector<std::string>{"Can't open file!"});
+    EXPECT_EQ(weaver.FindPhaseByName("ReturnHome"), nullptr);
+    edit.Undo();
+    EXPECT_EQ(weaver.objects.size(), objects);
+}
+
+TEST_F(EditMenuCommandsTest, CommandsThatStartSomethingWaitForTheIdleCanvas) {
+    e.Select("ReturnHome");
+    weaver.PointerDown(2050, 750); // a drag of ReturnHome begins
+    ASSERT_EQ(weaver.interactionState(), InteractionState::StateDrag);
+    edit.Copy();
+    edit.Cut();
+    edit.Paste();
+    EXPECT_EQ(e.DataFileText(Weaver::kClipboardPath), "<missing>");
+    EXPECT_EQ(weaver.selection.members.size(), 1u);
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StateDrag);
+}
+
+TEST_F(EditMenuCommandsTest, PasteWaitsForAClickWhileCtrlVPlacesAtThePointer) {
+    e.Select("ReturnHome");
+    edit.Copy();
+    edit.Paste();
+    EXPECT_TRUE(weaver.selection.members.empty());
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StatePlaceTemplate);
+    EXPECT_EQ(weaver.currentCursor, CanvasCursor::Place);
+    EXPECT_EQ(weaver.pendingImportPath, Weaver::kClipboardPath);
+
+    weaver.EscapeKey();
+    static_cast<ViewTransform&>(e.view) = ViewTransform{10, 20, 2.0f};
+    weaver.pointerX = 100;
+    weaver.pointerY = 100;
+    const std::size_t before = weaver.objects.size();
+    edit.PasteAtPointer();
+    ASSERT_EQ(weaver.objects.size(), before + 1);
+    EXPECT_EQ(weaver.objects.back()->posX, 40);
+    EXPECT_EQ(weaver.objects.back()->posY, 30);
+    EXPECT_EQ(weaver.selection.members.size(), 1u);
+}
+
+TEST_F(EditMenuCommandsTest, SaveSelectionAndImportGoThroughTheFileDialogs) {
+    e.Select("ReturnHome");
+    dialogs.answers = {kData + "/scg/picked.mt", kData + "/scg/picked.mt"};
+    edit.SaveSelection();
+    ASSERT_EQ(dialogs.requests.size(), 1u);
+    EXPECT_EQ(dialogs.requests[0].fileName, "selection.mt");
+    EXPECT_NE(e.DataFileText("scg\\picked.mt").find("ReturnHome"), std::string::npos);
+
+    edit.ImportFromFile();
+    EXPECT_EQ(weaver.pendingImportPath, "scg\\picked.mt");
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StatePlaceTemplate);
+    EXPECT_EQ(weaver.selection.members.size(), 1u);
+}
+
+TEST_F(EditMenuCommandsTest, ReloadAsksAndSavesFirst) {
+    e.prompts.QueueAnswer(Answer::No);
+    edit.ReloadBlocks();
+    EXPECT_EQ(e.DataFileText(Weaver::kReloadLogPath), "<missing>");
+
+    // A save that does not happen stops the reload.
+    weaver.undoManager.Push(nullptr);
+    weaver.fileName.clear();
+    e.prompts.QueueAnswer(Answer::Yes);
+    edit.ReloadBlocks();
+    EXPECT_EQ(e.DataFileText(Weaver::kReloadLogPath), "<missing>");
+
+    weaver.fileName = "scg\\sample_small.mt";
+    e.prompts.QueueAnswer(Answer::Yes);
+    edit.ReloadBlocks();
+    EXPECT_EQ(e.prompts.Log().back().icon, MessageIcon::Warning);
+    EXPECT_EQ(e.prompts.Log().back().text, EditMenuCommands::kReloadQuestion);
+    EXPECT_NE(e.DataFileText(Weaver::kReloadLogPath), "<missing>");
+    EXPECT_EQ(e.host.openedFiles.size(), 1u);
+}

@@ -1,0 +1,206 @@
+#include "app/FileCommands.h"
+
+#include "app/Weaver.h"
+#include "platform/MemoryFileSystem.h"
+#include "platform/MemoryOptionsStore.h"
+#include "platform/RecordingPrompts.h"
+#include "seams/ScriptedFileDialogs.h"
+#include "support/RecordingViewHost.h"
+#include "support/TestFiles.h"
+
+#include <gtest/gtest.h>
+
+using namespace lw;
+
+namespace {
+
+const std::string kData = "/Sim/Data";
+const std::string kSmall = "scg\\sample_small.mt";
+
+class FileCommandsTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        test::CopyFolderIntoMemory(test::SampleDataDir(), disk, kData);
+        weaver.SetViewHost(&host);
+    }
+
+    void StartUp() { weaver.StartUp(kData); }
+    std::string SmallFileBytes() {
+        return test::ReadFileBytes(test::SampleDataDir() + "/scg/sample_small.mt");
+    }
+    std::string Bytes(const std::string& path) {
+        auto stream = disk.OpenForReading(path);
+        return stream ? std::string(std::istreambuf_iterator<char>(*stream), {}) : "<missing>";
+    }
+    void LoadChanged() {
+        ASSERT_TRUE(weaver.LoadTemplateFile(kSmall));
+        weaver.undoManager.Push(nullptr);
+    }
+
+    MemoryFileSystem disk;
+    MemoryOptionsStore store;
+    RecordingPrompts prompts;
+    test::RecordingViewHost host;
+    Weaver weaver{prompts, store, disk};
+    ScriptedFileDialogs dialogs;
+    FileCommands commands{weaver, dialogs};
+};
+
+} // namespace
+
+TEST_F(FileCommandsTest, StartOpensTheLastUsedTemplateWhenAsked) {
+    store.SetString(EditorOptions::kSection, "LastUsedTemplateName", kSmall);
+    StartUp();
+    EXPECT_EQ(weaver.fileName, kSmall);
+    EXPECT_FALSE(weaver.objects.empty());
+    EXPECT_EQ(host.title, "Loomwright - scg\\sample_small.mt");
+    EXPECT_TRUE(prompts.Log().empty());
+
+    Weaver notAsked{prompts, store, disk};
+    store.SetInt(EditorOptions::kSection, "OpenLastUsedTemplateOnStart", 0);
+    notAsked.StartUp(kData);
+    EXPECT_TRUE(notAsked.objects.empty());
+}
+
+TEST_F(FileCommandsTest, AMissingLastTemplateLeavesAnEmptyDocument) {
+    store.SetString(EditorOptions::kSection, "LastUsedTemplateName", "scg\\gone.mt");
+    StartUp();
+    EXPECT_EQ(prompts.MessageTexts(), std::vector<std::string>{"Can't open template file!"});
+    EXPECT_TRUE(weaver.fileName.empty());
+    // A caption that ends in " - " reads as if something were missing.
+    EXPECT_EQ(host.title, "Loomwright - untitled");
+}
+
+TEST_F(FileCommandsTest, LoadThenSaveWritesTheFileAsItWas) {
+    StartUp();
+    LoadChanged();
+    EXPECT_EQ(weaver.options.LastUsedTemplateName, kSmall);
+    EXPECT_EQ(weaver.nextId, static_cast<std::int32_t>(weaver.objects.size()) + 1);
+    disk.AddFile(kData + "/scg/sample_small.mt", "old");
+    commands.Save();
+    EXPECT_EQ(Bytes(kData + "/scg/sample_small.mt"), SmallFileBytes());
+    EXPECT_FALSE(weaver.undoManager.changed);
+    EXPECT_EQ(host.title, "Loomwright - scg\\sample_small.mt");
+    EXPECT_TRUE(dialogs.requests.empty());
+}
+
+TEST_F(FileCommandsTest, AFailedSaveKeepsTheOldFileAndTheChanges) {
+    StartUp();
+    LoadChanged();
+    const std::string path = kData + "/scg/sample_small.mt";
+    disk.MakeReadOnly(path);
+    EXPECT_FALSE(weaver.SaveTemplateFile());
+    disk.Remove(path);
+    disk.AddFile(path, "old");
+    disk.FailNextReplace();
+    EXPECT_FALSE(weaver.SaveTemplateFile());
+    EXPECT_EQ(prompts.MessageTexts(),
+              (std::vector<std::string>{"Can't save template file!", "Can't save template file!"}));
+    EXPECT_EQ(Bytes(path), "old");
+    EXPECT_TRUE(weaver.undoManager.changed);
+    EXPECT_EQ(host.title, "Loomwright - scg\\sample_small.mt*");
+}
+
+TEST_F(FileCommandsTest, SaveOfANewDocumentOffersDefaultInTheDataFolder) {
+    StartUp();
+    EXPECT_FALSE(weaver.LoadTemplateFile("scg\\gone.mt"));
+    weaver.undoManager.Push(nullptr);
+    dialogs.answers = {kData + "/Scg/Mine.MT"};
+    commands.Save();
+    ASSERT_EQ(dialogs.requests.size(), 1u);
+    EXPECT_EQ(dialogs.requests[0].fileName, "default.mt");
+    EXPECT_EQ(dialogs.requests[0].filter, "Mission Template Files (*.mt)|*.mt||");
+    EXPECT_EQ(dialogs.startFolders[0], kData);
+    // A name typed in mixed case comes back in lower case, relative to the data folder.
+    EXPECT_EQ(weaver.fileName, "scg\\mine.mt");
+    EXPECT_FALSE(weaver.undoManager.changed);
+    EXPECT_NE(Bytes(kData + "/scg/mine.mt"), "<missing>");
+}
+
+// A file outside the data folder cannot be taken, and the user is told why
+// instead of seeing the command do nothing.
+TEST_F(FileCommandsTest, ChoosingRefusesFilesOutsideTheDataFolderAndReadOnlyFiles) {
+    StartUp();
+    FileRequest request{"", FileCommands::kTemplateFilter, "scg", "*.mt"};
+    dialogs.answers = {"/Sim/Database/x.mt", "/elsewhere/x.mt", kData + "/SCG/Sample_Rich.mt"};
+    EXPECT_FALSE(commands.ChooseFileToOpen(request));
+    EXPECT_FALSE(commands.ChooseFileToOpen(request));
+    EXPECT_TRUE(commands.ChooseFileToOpen(request));
+    EXPECT_EQ(request.fileName, "scg\\sample_rich.mt");
+    EXPECT_EQ(dialogs.startFolders[0], kData + "/scg");
+    const std::string outside =
+        "A template can only be opened in the data folder, \"" + kData + "\".";
+    EXPECT_EQ(prompts.MessageTexts(), (std::vector<std::string>{outside, outside}));
+    prompts = RecordingPrompts();
+
+    disk.MakeReadOnly(kData + "/scg/sample_rich.mt");
+    dialogs.answers = {kData + "/scg/sample_rich.mt"};
+    EXPECT_FALSE(commands.ChooseFileToSave(request));
+    EXPECT_EQ(prompts.MessageTexts(), std::vector<std::string>{"This file is Read Only!"});
+}
+
+TEST_F(FileCommandsTest, NewAsksAboutChangesAndHonoursEachAnswer) {
+    StartUp();
+    LoadChanged();
+    const std::size_t count = weaver.objects.size();
+
+    prompts.QueueAnswer(Answer::Cancel);
+    commands.New();
+    EXPECT_EQ(weaver.objects.size(), count);
+
+    // Yes with a save that fails keeps the document.
+    disk.MakeReadOnly(kData + "/scg/sample_small.mt");
+    prompts.QueueAnswer(Answer::Yes);
+    commands.New();
+    EXPECT_EQ(weaver.objects.size(), count);
+    ASSERT_EQ(prompts.Log().size(), 3u);
+    EXPECT_EQ(prompts.Log()[0].text, "Template has been changed. Do you want to save changes?");
+    EXPECT_TRUE(prompts.Log()[0].isQuestion);
+
+    prompts.QueueAnswer(Answer::No);
+    commands.New();
+    EXPECT_TRUE(weaver.objects.empty());
+    EXPECT_TRUE(weaver.fileName.empty());
+    EXPECT_EQ(weaver.nextId, 1);
+    EXPECT_EQ(host.title, "Loomwright - untitled");
+
+    // Without changes nothing is asked.
+    commands.New();
+    EXPECT_EQ(prompts.Log().size(), 4u);
+}
+
+TEST_F(FileCommandsTest, NewWithYesAndACancelledSaveDialogKeepsTheDocument) {
+    StartUp();
+    weaver.NewPhase();
+    weaver.undoManager.Push(nullptr);
+    prompts.QueueAnswer(Answer::Yes);
+    commands.New();
+    EXPECT_EQ(weaver.objects.size(), 1u);
+    EXPECT_EQ(dialogs.requests.size(), 1u);
+}
+
+TEST_F(FileCommandsTest, OpenOffersTheScgFolderAndLoadsTheChoice) {
+    StartUp();
+    dialogs.answers = {kData + "/scg/sample_small.mt"};
+    commands.Open();
+    EXPECT_EQ(dialogs.startFolders[0], kData + "/scg");
+    EXPECT_EQ(weaver.fileName, kSmall);
+    EXPECT_FALSE(weaver.objects.empty());
+}
+
+TEST_F(FileCommandsTest, TheCloseQuestionHasItsOwnWording) {
+    StartUp();
+    EXPECT_TRUE(commands.ConfirmClose());
+    EXPECT_TRUE(prompts.Log().empty());
+
+    LoadChanged();
+    prompts.QueueAnswer(Answer::Cancel);
+    EXPECT_FALSE(commands.ConfirmClose());
+    EXPECT_EQ(prompts.Log()[0].text,
+              "Template file has been changed, do you want to save your changes?");
+    prompts.QueueAnswer(Answer::No);
+    EXPECT_TRUE(commands.ConfirmClose());
+    prompts.QueueAnswer(Answer::Yes);
+    EXPECT_TRUE(commands.ConfirmClose());
+    EXPECT_FALSE(weaver.undoManager.changed);
+}

@@ -1,0 +1,490 @@
+#include "GestureFixture.h"
+#include "canvas/RecordingSurface.h"
+#include "document/TemplateDesc.h"
+#include "undo/UR_DeleteLinksCmd.h"
+#include "undo/UR_EditPhaseCmd.h"
+#include "undo/UR_MoveObjectsCmd.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+using namespace lw;
+using namespace lw::test;
+
+namespace {
+
+using Members = std::vector<EditorObject*>;
+
+class GestureTest : public GestureFixture {
+protected:
+    // What a click at the point would pick: the link's source phase, or the
+    // phase whose geometry line it is.
+    std::int32_t PickedLinkSource(int x, int y) {
+        weaver.selectedLink = Link{};
+        weaver.PickLinkAt(x, y);
+        return weaver.selectedLink.fromPhaseId;
+    }
+    std::int32_t PickedGeometryPhase(int x, int y) {
+        weaver.pickedGeometryPhase = 0;
+        weaver.PickLinkAt(x, y);
+        return static_cast<std::int32_t>(weaver.pickedGeometryPhase);
+    }
+    void AddLink(const Phase& from, const Phase& to) {
+        weaver.links.push_back(Link{false, from.id, "out", to.id, "in"});
+        weaver.RefreshGateMarks();
+    }
+    void Band(int x0, int y0, int x1, int y1) { DragThrough(x0, y0, {{x1, y1}}); }
+
+    // The canvas lies at (100, 50) on the screen, 800 by 600 pixels.
+    const ScreenRect canvasOnScreen{100, 50, 900, 650};
+};
+
+} // namespace
+
+TEST_F(GestureTest, OnePressSelectsEveryObjectUnderItAndOneDragMovesThemAsOneCommand) {
+    Phase* a = PhaseAt("A", 0, 0);
+    Phase* b = PhaseAt("B", 100, 50);
+    input.LeftDown(150, 100, kLeftButton);
+    EXPECT_EQ(Selected(), (Members{a, b}));
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StateDrag);
+    EXPECT_EQ(weaver.currentCursor, CanvasCursor::Move);
+
+    // The objects follow every step; only the release records the move.
+    input.Move(170, 90, kLeftButton);
+    EXPECT_EQ(At(a), (Point{20, -10}));
+    EXPECT_EQ(Commands(), 0u);
+    input.Move(180, 110, kLeftButton);
+    input.LeftUp(180, 110, 0);
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
+    EXPECT_EQ(weaver.currentCursor, CanvasCursor::Arrow);
+    EXPECT_FALSE(e.host.captured);
+    EXPECT_EQ(At(b), (Point{130, 60}));
+    EXPECT_TRUE(HistoryEndsWith<UR_MoveObjectsCmd>(1));
+
+    weaver.Undo();
+    EXPECT_EQ(At(a), (Point{0, 0}));
+    EXPECT_EQ(At(b), (Point{100, 50}));
+}
+
+// A dragged phase takes its checks, actions and unlinker along in the same
+// one move, instead of leaving them behind to be dragged one by one.
+TEST_F(GestureTest, AttachedObjectsFollowTheirPhaseInOneMove) {
+    Phase* a = PhaseAt("A", 0, 0);
+    Check* check = CheckOf(*a, CheckFree, 66, 172);
+    Action* action = ActionOf(*a, "", "Rule");
+    action->posX = 400;
+    action->posY = -150;
+    Unlinker* unlinker = weaver.NewUnlinker();
+    unlinker->phaseId = a->id;
+    Action* othersAction = ActionOf(*PhaseAt("Other", 1000, 1000), "", "Rule");
+
+    // The check is selected too, and still moves once.
+    Select(a);
+    Select(check);
+    input.LeftDown(50, 50, kLeftButton);
+    input.Move(80, 70, kLeftButton);
+    input.LeftUp(80, 70, 0);
+    EXPECT_EQ(At(a), (Point{30, 20}));
+    EXPECT_EQ(At(check), (Point{96, 192}));
+    EXPECT_EQ(At(action), (Point{430, -130}));
+    EXPECT_EQ(At(unlinker), (Point{30, 20}));
+    EXPECT_EQ(At(othersAction), (Point{0, 0}));
+    EXPECT_EQ(Commands(), 1u);
+
+    weaver.Undo();
+    EXPECT_EQ(At(check), (Point{66, 172}));
+    EXPECT_EQ(At(unlinker), (Point{0, 0}));
+    weaver.Redo();
+    EXPECT_EQ(At(action), (Point{430, -130}));
+}
+
+TEST_F(GestureTest, AClickOrADragBackToItsStartSelectsButRecordsNoMove) {
+    Phase* a = PhaseAt("A", 0, 0);
+    ClickAt(50, 50);
+    EXPECT_EQ(Selected(), Members{a});
+    DragThrough(50, 50, {{80, 90}, {50, 50}});
+    EXPECT_EQ(At(a), (Point{0, 0}));
+    EXPECT_EQ(Commands(), 0u);
+    EXPECT_FALSE(weaver.undoManager.changed);
+}
+
+TEST_F(GestureTest, APressOnASelectedObjectDragsTheWholeSelectionHiddenMembersToo) {
+    Phase* a = PhaseAt("A", 0, 0);
+    Phase* c = PhaseAt("C", 500, 0);
+    Phase* untouched = PhaseAt("D", 1000, 0);
+    // Checks are hidden, so this one can't be hit, yet it stays selected.
+    Check* check = CheckOf(*a, CheckSquad, 66, 172);
+    for (EditorObject* object : Members{a, c, check})
+        Select(object);
+    DragThrough(600, 50, {{610, 60}});
+    EXPECT_EQ(Selected(), (Members{a, c, check}));
+    EXPECT_EQ(At(a), (Point{10, 10}));
+    EXPECT_EQ(At(c), (Point{510, 10}));
+    EXPECT_EQ(At(check), (Point{76, 182}));
+    EXPECT_EQ(At(untouched), (Point{1000, 0}));
+}
+
+TEST_F(GestureTest, TheBandTakesObjectsByTheirAnchorPoint) {
+    weaver.options.DrawSwitchAndCases = true;
+    Phase* p = PhaseAt("P", 100, 100);
+    Case* k = CaseAt("K", 600, 100);
+
+    // The band covers most of the phase, but not its top-left corner.
+    Band(110, 90, 400, 400);
+    EXPECT_TRUE(Selected().empty());
+    EXPECT_FALSE(weaver.bandActive);
+    Band(50, 50, 100, 100); // the right and bottom edges lie outside
+    EXPECT_TRUE(Selected().empty());
+    Band(400, 400, 90, 90);
+    EXPECT_EQ(Selected(), Members{p});
+
+    // A case is round: a press in the corner of its box starts a band, which
+    // drops the selection. This band covers the case's right half, not its centre.
+    Band(635, 135, 700, 200);
+    EXPECT_TRUE(Selected().empty());
+    Band(605, 50, 700, 200);
+    EXPECT_TRUE(Selected().empty());
+    Band(595, 50, 700, 200);
+    EXPECT_EQ(Selected(), Members{k});
+}
+
+TEST_F(GestureTest, TheBandPassesOverKindsThatAreHidden) {
+    Phase* p = PhaseAt("P", 0, 0);
+    Case* k = CaseAt("K", 600, 100);
+    Check* check = CheckOf(*p, CheckSquad, 600, 400);
+    Action* action = ActionOf(*p, "Pilot", "Skin");
+    action->posX = 700;
+    action->posY = 400;
+    Band(550, 40, 800, 500);
+    EXPECT_TRUE(Selected().empty());
+
+    weaver.options.DrawSwitchAndCases = true;
+    weaver.options.DrawChecks = true;
+    weaver.options.DrawActions = true;
+    Band(550, 40, 800, 500);
+    EXPECT_EQ(Selected(), (Members{k, check, action}));
+}
+
+TEST_F(GestureTest, CtrlClickTogglesOnTheReleaseAndAShiftClickNeitherSelectsNorPicks) {
+    weaver.options.DrawInputOutputs = true;
+    Phase* a = PhaseAt("A", 0, 0);
+    AddLink(*a, *PhaseAt("C", 800, 0));
+    const auto ctrlClick = [&](int releaseX) {
+        input.LeftDown(50, 50, kLeftButton | kCtrlKey);
+        EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
+        input.LeftUp(releaseX, 50, kCtrlKey);
+    };
+    ctrlClick(50);
+    EXPECT_EQ(Selected(), Members{a});
+    ctrlClick(60); // a release away from the press does nothing
+    EXPECT_EQ(Selected(), Members{a});
+    ctrlClick(50);
+    EXPECT_TRUE(Selected().empty());
+
+    // (500, 75) lies on the link, on the empty canvas.
+    Select(a);
+    input.LeftDown(500, 75, kLeftButton | kShiftKey);
+    input.LeftUp(500, 75, kShiftKey);
+    EXPECT_EQ(Selected(), Members{a});
+    EXPECT_EQ(weaver.selectedLink.fromPhaseId, 0);
+    ClickAt(500, 75);
+    EXPECT_TRUE(Selected().empty());
+    EXPECT_EQ(weaver.selectedLink.fromPhaseId, a->id);
+}
+
+TEST_F(GestureTest, LinkAndTemplateStatesTakeOnlyAnExactClick) {
+    Phase* source = PhaseAt("S", 0, 0);
+    PhaseAt("T", 400, 0);
+    Select(source);
+    weaver.StartGeometryLink(true);
+    input.LeftDown(450, 50, kLeftButton);
+    input.LeftUp(451, 50, 0);
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StatePrimaryLink);
+    EXPECT_EQ(source->primaryLinkId, 0);
+
+    weaver.EscapeKey();
+    weaver.WaitToPlaceTemplate("scg\\missing.mt");
+    input.LeftDown(100, 100, kLeftButton);
+    input.LeftUp(101, 100, 0);
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StatePlaceTemplate);
+    EXPECT_TRUE(e.prompts.Log().empty());
+    ClickAt(100, 100);
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
+    EXPECT_EQ(e.prompts.MessageTexts(), std::vector<std::string>{"Can't open template file!"});
+    EXPECT_EQ(Commands(), 0u);
+}
+
+// A link from A through B to C, and A's primary geometry line to T, which
+// crosses B 25 pixels above the link.
+TEST_F(GestureTest, DeleteTakesThePickedLinkThenThePickedGeometryLineThenTheSelection) {
+    weaver.options.DrawInputOutputs = true;
+    weaver.options.DrawGeometry = true;
+    Phase* a = PhaseAt("A", 0, 0);
+    AddLink(*a, *PhaseAt("C", 800, 0));
+    const std::int32_t b = PhaseAt("B", 400, 0)->id;
+    const std::int32_t t = PhaseAt("T", 1000, 50)->id;
+    a->primaryLinkId = t;
+
+    // A press anywhere drops what was picked before.
+    ClickAt(380, 75);
+    EXPECT_EQ(weaver.selectedLink.fromPhaseId, a->id);
+    ClickAt(500, 120);
+    EXPECT_EQ(weaver.selectedLink.fromPhaseId, 0);
+
+    ClickAt(500, 75);
+    EXPECT_EQ(Selected(), Members{weaver.FindObject(b)});
+    input.Key(CanvasKey::Delete);
+    EXPECT_TRUE(weaver.links.empty());
+    EXPECT_TRUE(a->outputs[0].openMark);
+    EXPECT_TRUE(HistoryEndsWith<UR_DeleteLinksCmd>(1));
+    EXPECT_EQ(a->primaryLinkId, t);
+    EXPECT_EQ(Selected().size(), 1u);
+
+    ClickAt(500, 50);
+    EXPECT_EQ(weaver.pickedGeometryPhase, static_cast<std::uint32_t>(a->id));
+    input.Key(CanvasKey::Delete);
+    EXPECT_EQ(a->primaryLinkId, 0);
+    EXPECT_TRUE(HistoryEndsWith<UR_EditPhaseCmd>(2));
+    EXPECT_NE(weaver.FindObject(b), nullptr);
+
+    input.Key(CanvasKey::Delete);
+    EXPECT_EQ(weaver.FindObject(b), nullptr);
+    EXPECT_EQ(Commands(), 3u);
+    for (int i = 0; i < 3; ++i)
+        weaver.Undo();
+    EXPECT_NE(weaver.FindObject(b), nullptr);
+    EXPECT_EQ(a->primaryLinkId, t);
+    EXPECT_EQ(weaver.links.size(), 1u);
+}
+
+// A line is hit within six pixels, so that a thin link is no game of skill.
+TEST_F(GestureTest, LinesArePickedWithinSixPixelsAndPastTheirEndsByTheDistanceToTheEnd) {
+    weaver.options.DrawInputOutputs = true;
+    weaver.options.DrawGeometry = true;
+    // A slanted link from (350, 75) to (450, 375).
+    Phase* a = PhaseAt("A", 0, 0);
+    AddLink(*a, *PhaseAt("C", 600, 300));
+    EXPECT_EQ(PickedLinkSource(406, 225), a->id); // 18 / sqrt(10), about 5.7 pixels
+    EXPECT_EQ(PickedLinkSource(407, 225), 0);     // 21 / sqrt(10), about 6.6 pixels
+
+    // A level link from (350, 1075) to (650, 1075); past an end, the
+    // distance is the one to the end, not to the line drawn on.
+    Phase* d = PhaseAt("D", 0, 1000);
+    AddLink(*d, *PhaseAt("E", 800, 1000));
+    EXPECT_EQ(PickedLinkSource(500, 1080), d->id);
+    EXPECT_EQ(PickedLinkSource(500, 1081), 0);
+    EXPECT_EQ(PickedLinkSource(655, 1075), d->id);
+    EXPECT_EQ(PickedLinkSource(656, 1075), 0);
+    EXPECT_EQ(PickedLinkSource(345, 1075), d->id);
+    EXPECT_EQ(PickedLinkSource(344, 1075), 0);
+    // A link wins over a geometry line as near: Q's starts at (500, 1075).
+    Phase* q = PhaseAt("Q", 434, 1025);
+    q->primaryLinkId = PhaseAt("R", 500, 1500)->id;
+    weaver.pickedGeometryPhase = 0;
+    EXPECT_EQ(PickedLinkSource(500, 1076), d->id);
+    EXPECT_EQ(weaver.pickedGeometryPhase, 0u);
+
+    // Geometry lines of every phase count, a server phase's too.
+    Phase* g = PhaseAt("G", 0, 2000);
+    g->generationType = GenerationServerSetPos;
+    g->primaryLinkId = PhaseAt("H", 1000, 2050)->id; // (66, 2050) to (1000, 2050)
+    g->secondaryLinkId = PhaseAt("J", 66, 2600)->id; // (66, 2050) to (66, 2600)
+    EXPECT_EQ(PickedGeometryPhase(500, 2056), 0);
+    EXPECT_EQ(PickedGeometryPhase(500, 2055), g->id);
+    EXPECT_TRUE(weaver.pickedIsPrimary);
+    EXPECT_EQ(PickedGeometryPhase(67, 2300), g->id);
+    EXPECT_FALSE(weaver.pickedIsPrimary);
+
+    weaver.options.DrawInputOutputs = false;
+    weaver.options.DrawGeometry = false;
+    EXPECT_EQ(PickedLinkSource(500, 1075), 0);
+    EXPECT_EQ(PickedGeometryPhase(500, 2050), 0);
+}
+
+TEST_F(GestureTest, EscapeEndsPlacingsLinkGesturesAndDragsButNotBands) {
+    dialogs.QueueOutcome(true, [](DialogCall& call) {
+        As<Phase>(call.object)->blocks["main"] = "scg\\0\\blocks\\air\\patrol.group";
+    });
+    weaver.AddPhase();
+    ASSERT_EQ(weaver.interactionState(), InteractionState::StatePlacePhase);
+    input.Key(CanvasKey::Escape);
+    EXPECT_EQ(weaver.pendingPhase, nullptr);
+    EXPECT_EQ(weaver.currentCursor, CanvasCursor::Arrow);
+    Phase* member = PhaseAt("M", 0, 1000);
+    Select(member);
+    dialogs.QueueOutcome(
+        true, [](DialogCall& call) { As<Case>(call.object)->phaseIds = call.firstMembers; });
+    weaver.AddCase();
+    ASSERT_EQ(weaver.interactionState(), InteractionState::StatePlaceCase);
+    input.Key(CanvasKey::Escape);
+    weaver.selection.Clear();
+    Select(CaseAt("C", 0, 1400));
+    dialogs.QueueOutcome(true, [](DialogCall& call) {
+        As<Switch>(call.object)->caseIds = call.firstMembers;
+        As<Switch>(call.object)->number = 1;
+    });
+    weaver.AddSwitch();
+    ASSERT_EQ(weaver.interactionState(), InteractionState::StatePlaceSwitch);
+    input.Key(CanvasKey::Escape);
+    EXPECT_EQ(weaver.pendingCase, nullptr);
+    EXPECT_EQ(weaver.pendingSwitch, nullptr);
+    EXPECT_EQ(weaver.objects.size(), 2u) << "only the case's phase and the switch's case";
+    weaver.selection.Clear();
+
+    Phase* source = PhaseAt("S", 0, 0);
+    Select(source);
+    weaver.StartGeometryLink(true);
+    input.Key(CanvasKey::Escape);
+    EXPECT_EQ(weaver.pendingPhase, nullptr);
+    EXPECT_EQ(weaver.objects.size(), 3u);
+    weaver.WaitToPlaceTemplate(Weaver::kClipboardPath);
+    input.Key(CanvasKey::Escape);
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
+    EXPECT_EQ(Commands(), 0u);
+
+    // A drag taken back with Escape puts the phase where it stood and
+    // leaves no command: a slip of the hand costs nothing.
+    input.LeftDown(50, 50, kLeftButton);
+    input.Move(150, 90, kLeftButton);
+    input.Key(CanvasKey::Escape);
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
+    EXPECT_EQ(source->posX, 0);
+    EXPECT_EQ(source->posY, 0);
+    input.LeftUp(150, 90, 0);
+    EXPECT_EQ(Commands(), 0u);
+    input.LeftDown(600, 600, kLeftButton);
+    input.Key(CanvasKey::Escape);
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StateRubberBand);
+    EXPECT_TRUE(weaver.bandActive);
+}
+
+TEST_F(GestureTest, TheWheelZoomsAboutTheScreenPointTakenAsAWindowPoint) {
+    // One step a message, however large the delta. Had the point been made a
+    // window point first, (200, 200), the view would be at (-19, -19).
+    input.Wheel(300, 250, 360, canvasOnScreen);
+    EXPECT_EQ(e.view.scale, 1.1f);
+    EXPECT_EQ(e.view.viewX, -28);
+    EXPECT_EQ(e.view.viewY, -23);
+    EXPECT_EQ(e.view.font, (CanvasFont{"Arial", 15, 400}));
+    // Back at scale 1 the font is the zoomed one of 14 pixels, not the first 12.
+    input.Wheel(300, 250, -120, canvasOnScreen);
+    EXPECT_EQ(e.view.scale, 1.0f);
+    EXPECT_EQ(e.view.viewX, 0);
+    EXPECT_EQ(e.view.font.height, 14);
+
+    // Points outside the canvas do nothing; its edges count.
+    const int repaints = e.host.repaints;
+    input.Wheel(901, 300, 120, canvasOnScreen);
+    input.Wheel(500, 49, 120, canvasOnScreen);
+    EXPECT_EQ(e.view.scale, 1.0f);
+    EXPECT_EQ(e.host.repaints, repaints);
+    input.Wheel(900, 650, 120, canvasOnScreen);
+    EXPECT_EQ(e.view.scale, 1.1f);
+    input.Wheel(100, 50, -120, canvasOnScreen);
+    EXPECT_EQ(e.view.scale, 1.0f);
+
+    // The scale is clamped, and the font keeps one pixel at least.
+    for (int i = 0; i < 20; ++i)
+        input.Wheel(500, 300, 120, canvasOnScreen);
+    EXPECT_EQ(e.view.scale, 2.0f);
+    EXPECT_EQ(e.view.font.height, 28);
+    for (int i = 0; i < 80; ++i)
+        input.Wheel(500, 300, -120, canvasOnScreen);
+    EXPECT_EQ(e.view.scale, 0.01f);
+    EXPECT_EQ(e.view.font.height, 1);
+}
+
+TEST_F(GestureTest, AWheelStepDuringABandMovesItsCornerToTheScreenPoint) {
+    input.LeftDown(10, 10, kLeftButton);
+    input.Move(50, 50, kLeftButton);
+    EXPECT_EQ(weaver.bandRect, (ScreenRect{10, 10, 50, 50}));
+    input.Wheel(300, 200, 120, ScreenRect{100, 100, 900, 700});
+    // The anchor (10, 10) in the new view (-28, -19) at 1.1.
+    EXPECT_EQ(weaver.bandRect, (ScreenRect{-19, -9, 300, 200}));
+    EXPECT_EQ(weaver.previousBandRect, (ScreenRect{10, 10, 50, 50}));
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StateRubberBand);
+
+    // A wheel event with no vertical step (a sideways scroll) is no zoom at
+    // all: it must not move the view, swap the font or jump the band.
+    const CanvasView before = e.view;
+    const int repaints = e.host.repaints;
+    input.Wheel(600, 400, 0, ScreenRect{100, 100, 900, 700});
+    EXPECT_EQ(e.view.viewX, before.viewX);
+    EXPECT_EQ(e.view.font, before.font);
+    EXPECT_EQ(weaver.bandRect, (ScreenRect{-19, -9, 300, 200}));
+    EXPECT_EQ(e.host.repaints, repaints);
+}
+
+TEST_F(GestureTest, TheRightButtonPansInAnyStateAndOnlyAnExactRightClickOpensTheMenu) {
+    e.view.scale = 2.0f;
+    input.Move(100, 100, 0);
+    input.RightDown(100, 100, kRightButton);
+    input.Move(105, 103, kRightButton);
+    EXPECT_EQ(e.view.viewX, 2);
+    EXPECT_EQ(e.view.viewY, 1);
+    input.Move(96, 100, kRightButton); // -9 / 2 is truncated to -4
+    EXPECT_EQ(e.view.viewX, -2);
+    EXPECT_EQ(e.view.viewY, 0);
+    EXPECT_FALSE(input.RightUp(96, 100, 0));
+
+    input.RightDown(96, 100, kRightButton);
+    EXPECT_TRUE(input.RightUp(96, 100, 0));
+    input.RightDown(30, 30, kRightButton | kCtrlKey);
+    EXPECT_FALSE(input.RightUp(30, 30, kCtrlKey));
+    input.RightDown(30, 30, kRightButton | kShiftKey);
+    EXPECT_FALSE(input.RightUp(30, 30, 0));
+
+    weaver.WaitToPlaceTemplate(Weaver::kClipboardPath);
+    input.Move(106, 100, kRightButton);
+    EXPECT_EQ(e.view.viewX, 3);
+}
+
+// S, a fractal phase, already leads its secondary link to X; Y overlaps X and
+// comes after it in the list.
+TEST_F(GestureTest, AHandDrawnLinkSkipsTheSourceTheEmptyCanvasAndTheOtherLinksTarget) {
+    Phase* source = PhaseAt("S", 0, 0);
+    source->generationType = GenerationFractal;
+    const std::int32_t x = PhaseAt("X", 400, 0)->id;
+    const std::int32_t y = PhaseAt("Y", 450, 50)->id;
+    source->secondaryLinkId = x;
+    Select(source);
+    weaver.StartGeometryLink(true);
+    for (const auto& [px, py] : {Point{50, 50}, Point{300, 600}, Point{420, 20}}) {
+        ClickAt(px, py);
+        EXPECT_EQ(weaver.interactionState(), InteractionState::StatePrimaryLink) << px << "," << py;
+        EXPECT_EQ(weaver.pendingPhase, source);
+    }
+    EXPECT_EQ(Commands(), 0u);
+
+    ClickAt(500, 100);
+    EXPECT_EQ(source->primaryLinkId, y);
+    EXPECT_EQ(source->secondaryLinkId, x);
+    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
+    EXPECT_EQ(weaver.pendingPhase, nullptr);
+    EXPECT_TRUE(HistoryEndsWith<UR_EditPhaseCmd>(1));
+    weaver.Undo();
+    EXPECT_EQ(source->primaryLinkId, 0);
+    EXPECT_EQ(source->secondaryLinkId, x);
+}
+
+// The link under a resting pointer is shown, so that the user sees what a
+// click would pick; it is drawn with its own pen over the others.
+TEST_F(GestureTest, TheLinkUnderTheRestingPointerIsHighlighted) {
+    weaver.options.DrawInputOutputs = true;
+    Phase* a = PhaseAt("A", 0, 1000);
+    AddLink(*a, *PhaseAt("B", 800, 1000)); // from (350, 1075) to (650, 1075)
+    const int repaints = e.host.repaints;
+    input.Move(500, 1080, 0);
+    EXPECT_EQ(weaver.hoveredLink.fromPhaseId, a->id);
+    EXPECT_EQ(e.host.repaints, repaints + 1);
+    RecordingSurface dc;
+    weaver.PaintScene(dc, 0, 0, 1.0f);
+    EXPECT_NE(std::find(dc.calls.begin(), dc.calls.end(), "pen solid 3 255,170,60"),
+              dc.calls.end());
+    input.Move(500, 1081, 0);
+    EXPECT_EQ(weaver.hoveredLink.fromPhaseId, 0);
+    // Nothing is highlighted while a gesture is under way.
+    input.LeftDown(500, 500, kLeftButton);
+    input.Move(500, 1080, kLeftButton);
+    EXPECT_EQ(weaver.hoveredLink.fromPhaseId, 0);
+}

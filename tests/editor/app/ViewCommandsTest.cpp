@@ -1,0 +1,116 @@
+#include "app/EditorCommands.h"
+#include "app/RecentFiles.h"
+#include "platform/MemoryOptionsStore.h"
+#include "seams/ScriptedFileDialogs.h"
+#include "support/SampleEditor.h"
+
+#include <gtest/gtest.h>
+
+using namespace lw;
+using namespace lw::test;
+
+namespace {
+
+// The rich sample open in a canvas of 1024 by 768 pixels.
+class ViewCommandsTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        e.view.pixelWidth = 1024;
+        e.view.pixelHeight = 768;
+        e.Open("scg\\sample_rich.mt");
+    }
+
+    // Whether every phase lies whole inside the canvas.
+    bool AllPhasesShown() const {
+        bool inside = true;
+        e.weaver.ForEach<Phase>([&](const Phase& phase) {
+            const ScreenRect r = phase.GetScreenRect(e.view.viewX, e.view.viewY, e.view.scale);
+            inside = inside && r.left >= 0 && r.top >= 0 && r.right <= e.view.pixelWidth &&
+                     r.bottom <= e.view.pixelHeight;
+        });
+        return inside;
+    }
+
+    SampleEditor e;
+    ScriptedFileDialogs files;
+    EditorCommands commands{e.weaver, files};
+};
+
+} // namespace
+
+// A template opens showing all of it, and stays fitted to the canvas while
+// the window finds its size, until the user moves the view.
+TEST_F(ViewCommandsTest, FitAllShowsEveryPhaseAndFollowsTheCanvasUntilTheViewIsMoved) {
+    EXPECT_FALSE(AllPhasesShown());
+    EXPECT_TRUE(commands.Run(CommandId::ViewZoomFit));
+    EXPECT_TRUE(AllPhasesShown());
+    EXPECT_EQ(e.view.font, CanvasFontAt(e.view.scale, true));
+
+    e.weaver.CanvasResized(640, 400);
+    EXPECT_TRUE(AllPhasesShown());
+    commands.Run(CommandId::ViewZoomIn);
+    const ViewTransform zoomed = e.view;
+    e.weaver.CanvasResized(1024, 768);
+    EXPECT_EQ(e.view.viewX, zoomed.viewX);
+    EXPECT_EQ(e.view.scale, zoomed.scale);
+}
+
+// The zoom steps keep what is in the middle of the canvas in the middle.
+TEST_F(ViewCommandsTest, ZoomStepsKeepTheMiddleAndFitSelectionShowsTheSelection) {
+    const std::int32_t middleX = e.view.WorldX(512);
+    const std::int32_t middleY = e.view.WorldY(384);
+    commands.Run(CommandId::ViewZoomIn);
+    EXPECT_FLOAT_EQ(e.view.scale, 1.1f);
+    EXPECT_LE(std::abs(e.view.WorldX(512) - middleX), 1);
+    EXPECT_LE(std::abs(e.view.WorldY(384) - middleY), 1);
+    for (int i = 0; i < 50; ++i)
+        commands.Run(CommandId::ViewZoomOut);
+    EXPECT_FLOAT_EQ(e.view.scale, 0.01f);
+
+    EXPECT_FALSE(commands.IsEnabled(CommandId::ViewZoomSelection));
+    e.Select("PlayerStart");
+    commands.Run(CommandId::ViewZoomSelection);
+    const Phase& start = *e.weaver.FindPhaseByName("PlayerStart");
+    const ScreenRect r = start.GetScreenRect(e.view.viewX, e.view.viewY, e.view.scale);
+    EXPECT_EQ((r.left + r.right) / 2, 512);
+    EXPECT_EQ(e.view.scale, 2.0f);
+}
+
+TEST_F(ViewCommandsTest, FindGoesRoundTheMatchesOfNamesAndBlocksWithoutRegardToCase) {
+    Finder& finder = commands.Find();
+    finder.Search("CASE");
+    const std::size_t cases = finder.MatchCount();
+    EXPECT_GT(cases, 1u);
+    EXPECT_TRUE(commands.Run(CommandId::FindPrevious));
+    EXPECT_EQ(finder.Status(), std::to_string(cases) + " of " + std::to_string(cases));
+    ASSERT_EQ(e.weaver.selection.members.size(), 1u);
+    EXPECT_EQ(e.weaver.selection.members[0]->GetKind(), ObjectKind::Case);
+    commands.Run(CommandId::FindNext);
+    EXPECT_EQ(finder.Status(), "1 of " + std::to_string(cases));
+
+    finder.Search("patrol_low");
+    EXPECT_EQ(finder.MatchCount(), 1u) << "a phase whose block is named so";
+    finder.Search("no such name");
+    EXPECT_EQ(finder.Status(), "No match");
+    EXPECT_FALSE(commands.IsEnabled(CommandId::FindNext));
+}
+
+TEST(RecentFilesTest, KeepsEightMostRecentFirstEachOnce) {
+    RecentFiles recent;
+    for (int i = 1; i <= 9; ++i)
+        recent.Add("scg\\t" + std::to_string(i) + ".mt");
+    recent.Add("scg\\t5.mt");
+    ASSERT_EQ(recent.Paths().size(), 8u);
+    EXPECT_EQ(recent.Paths()[0], "scg\\t5.mt");
+    EXPECT_EQ(recent.Paths()[1], "scg\\t9.mt");
+    EXPECT_EQ(recent.Paths()[7], "scg\\t2.mt");
+
+    MemoryOptionsStore store;
+    recent.Save(store);
+    RecentFiles shorter;
+    shorter.Add("scg\\only.mt");
+    shorter.Save(store);
+    RecentFiles read;
+    read.Load(store);
+    EXPECT_EQ(read.Paths(), std::vector<std::string>{"scg\\only.mt"});
+}
