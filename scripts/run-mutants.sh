@@ -9,14 +9,17 @@
 #
 # list defaults to tests/mutants.txt; ctest-regex limits the tests run for
 # every mutant (by default all but the format check). The scratch copy is
-# build-mutants/, kept between runs so that its build stays incremental.
+# build-mutants/src, kept between runs so that its build (build-mutants/src/
+# build) stays incremental.
 set -uo pipefail
 REPO_ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 LIST=${1:-$REPO_ROOT/tests/mutants.txt}
 TESTS=${2:-.}
 SCRATCH="$REPO_ROOT/build-mutants"
 COPY="$SCRATCH/src"
-BUILD="$SCRATCH/build"
+# Inside the copy, as in a checkout, so that the programs find the data
+# folder two levels above themselves.
+BUILD="$COPY/build"
 
 say() { printf '==> %s\n' "$*"; }
 

@@ -112,13 +112,13 @@ bool QtPropertyDialogs::EditAction(lw::Action& action, lw::ActionDialog dialog) 
         return Run<QtActionCountryPropertiesDlg>(form);
     }
     case lw::ActionDialog::Model: {
-        lw::ActionModelPropertiesDlg form(weaver_, action);
+        lw::ActionModelPropertiesDlg form(weaver_.modelList, action);
         return Run<QtActionModelPropertiesDlg>(form);
     }
     case lw::ActionDialog::General:
         break;
     }
-    lw::ActionGeneralPropertiesDlg form(weaver_, action);
+    lw::ActionGeneralPropertiesDlg form(weaver_.ruleCatalogue, action);
     return RunChecked<QtActionGeneralPropertiesDlg>(form);
 }
 

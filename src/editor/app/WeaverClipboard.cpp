@@ -42,8 +42,8 @@ void Weaver::PlaceTemplate(const std::string& path, int x, int y, int viewX, int
     if (auto stream = files.OpenForReading(path)) {
         TemplateDesc desc;
         ReadTemplateDesc(desc, *stream);
-        auto command =
-            std::make_unique<UR_ImportTemplateDesc>(this, std::move(desc), targetX, targetY);
+        auto command = std::make_unique<UR_ImportTemplateDesc>(this, blockPool, prompts,
+                                                               std::move(desc), targetX, targetY);
         command->Run(true);
         undoManager.Push(std::move(command));
     } else {

@@ -1,6 +1,6 @@
 #include "dialogs/ActionGeneralPropertiesDlg.h"
 
-#include "app/Weaver.h"
+#include "catalog/RuleCatalogue.h"
 #include "dialogs/Refuse.h"
 #include "document/ParserUtils.h"
 
@@ -61,8 +61,8 @@ ActionRule ParseRuleText(const std::string& text, const std::string& condition) 
 
 } // namespace
 
-ActionGeneralPropertiesDlg::ActionGeneralPropertiesDlg(Weaver& weaver, Action& action)
-    : weaver_(weaver), action_(action) {
+ActionGeneralPropertiesDlg::ActionGeneralPropertiesDlg(const RuleCatalogue& rules, Action& action)
+    : rules_(rules), action_(action) {
     FillRuleCombo();
     workingRules = action_.rules;
     RefreshRuleList();
@@ -72,7 +72,7 @@ ActionGeneralPropertiesDlg::ActionGeneralPropertiesDlg(Weaver& weaver, Action& a
 // rules that need none; one made from a property is offered the others.
 void ActionGeneralPropertiesDlg::FillRuleCombo() {
     const bool handMade = action_.objectName.empty();
-    for (const RuleDef& rule : weaver_.ruleCatalogue.rules) {
+    for (const RuleDef& rule : rules_.rules) {
         if (rule.noHelper == handMade)
             ruleCombo.Add(rule.name);
     }
@@ -90,7 +90,7 @@ void ActionGeneralPropertiesDlg::RefreshRuleList() {
 
 const RuleDef* ActionGeneralPropertiesDlg::ChosenRule() const {
     const std::string name = ruleCombo.Text();
-    return name.empty() ? nullptr : weaver_.ruleCatalogue.FindRule(name);
+    return name.empty() ? nullptr : rules_.FindRule(name);
 }
 
 std::string ActionGeneralPropertiesDlg::BuildParameterText() const {

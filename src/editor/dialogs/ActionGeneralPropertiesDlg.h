@@ -11,7 +11,7 @@
 
 namespace lw {
 
-class Weaver;
+class RuleCatalogue;
 struct RuleDef;
 
 // "Action General Rules properties": the rules of an action that is neither a
@@ -27,7 +27,7 @@ public:
     // A row of the rule list: one text per column and whether it is selected.
     using Row = ReportRow<kColumns.size()>;
 
-    ActionGeneralPropertiesDlg(Weaver& weaver, Action& action);
+    ActionGeneralPropertiesDlg(const RuleCatalogue& rules, Action& action);
 
     // The rule's format with the action's name and the parameter put in,
     // followed by "; "; empty when the combo names no rule of the catalogue.
@@ -68,7 +68,7 @@ private:
     void AddPlainRule(const RuleDef& rule, UserPrompts& prompts);
     void AddComplexRule(const RuleDef& rule);
 
-    Weaver& weaver_;
+    const RuleCatalogue& rules_;
     Action& action_;
 };
 

@@ -1,6 +1,5 @@
 #include "dialogs/ActionModelPropertiesDlg.h"
 
-#include "app/Weaver.h"
 #include "catalog/ModelList.h"
 #include "dialogs/Refuse.h"
 #include "dialogs/SingleRuleComboDlg.h"
@@ -63,8 +62,8 @@ const std::vector<std::string>& CareerTexts() {
 
 } // namespace
 
-ActionModelPropertiesDlg::ActionModelPropertiesDlg(Weaver& weaver, Action& action)
-    : models_(weaver.modelList), action_(action) {
+ActionModelPropertiesDlg::ActionModelPropertiesDlg(const ModelList& models, Action& action)
+    : models_(models), action_(action) {
     for (const auto& entry : models_.types)
         typeCombo.Add(entry.first);
     if (const std::string* stored = StoredParam(action_, 0))

@@ -10,7 +10,7 @@
 namespace lw {
 
 class ModelList;
-class Weaver;
+class ModelList;
 
 // "Action Model/Script properties": the model an action gives, as its one
 // "set_model" rule of a type and what to make of it. The types are those of
@@ -20,7 +20,7 @@ class ActionModelPropertiesDlg {
 public:
     static constexpr const char* kTitle = "Action Model/Script properties";
 
-    ActionModelPropertiesDlg(Weaver& weaver, Action& action);
+    ActionModelPropertiesDlg(const ModelList& models, Action& action);
 
     // After the user chose another type: the make-it list follows it.
     void OnTypeChanged();

@@ -1,15 +1,16 @@
 #include "dialogs/AddNewLinkDlg.h"
 
-#include "app/Weaver.h"
+#include "operations/ObjectStore.h"
 
 #include <algorithm>
 
 namespace lw {
 
-AddNewLinkDlg::AddNewLinkDlg(Weaver& weaver, const Phase& from, const Phase& to, bool isObjectLink)
+AddNewLinkDlg::AddNewLinkDlg(const ObjectStore& document, const Phase& from, const Phase& to,
+                             bool isObjectLink)
     : title(isObjectLink ? "Add new Object Link" : "Add new Target Link"),
       isObjectLink(isObjectLink), fromName(from.name), toName(to.name), fromPhase_(from),
-      toPhase_(to), weaver_(weaver) {
+      toPhase_(to), document_(document) {
     for (const GateSlot& gate : from.outputs)
         fromCombo.Add(gate.name);
     for (const GateSlot& gate : to.inputs)
@@ -17,7 +18,8 @@ AddNewLinkDlg::AddNewLinkDlg(Weaver& weaver, const Phase& from, const Phase& to,
 }
 
 bool AddNewLinkDlg::LinkExists(const Link& candidate) const {
-    return std::find(weaver_.links.begin(), weaver_.links.end(), candidate) != weaver_.links.end();
+    return std::find(document_.links.begin(), document_.links.end(), candidate) !=
+           document_.links.end();
 }
 
 // The answer to either message does not matter: the dialog stays open.

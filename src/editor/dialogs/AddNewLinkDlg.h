@@ -9,13 +9,14 @@
 
 namespace lw {
 
-class Weaver;
+class ObjectStore;
 
 // Picks the output gate of one phase and the input gate of another for a new
 // link of a given kind. The document is only read; the caller takes `link`.
 class AddNewLinkDlg {
 public:
-    AddNewLinkDlg(Weaver& weaver, const Phase& from, const Phase& to, bool isObjectLink);
+    AddNewLinkDlg(const ObjectStore& document, const Phase& from, const Phase& to,
+                  bool isObjectLink);
 
     // Fills `link` when both gates are chosen and no such link exists yet.
     bool Ok(UserPrompts& prompts);
@@ -36,7 +37,7 @@ private:
 
     const Phase& fromPhase_;
     const Phase& toPhase_;
-    Weaver& weaver_;
+    const ObjectStore& document_;
 };
 
 } // namespace lw

@@ -1,15 +1,15 @@
 #include "dialogs/CAddBlocksDlg.h"
 
-#include "app/Weaver.h"
+#include "catalog/BlocksContainer.h"
 
 namespace lw {
 
-CAddBlocksDlg::CAddBlocksDlg(Weaver& weaver, const std::string& mainBlock)
-    : mainBlock(mainBlock), weaver_(weaver) {
+CAddBlocksDlg::CAddBlocksDlg(const BlocksContainer& blockPool, const std::string& mainBlock)
+    : mainBlock(mainBlock), blockPool_(blockPool) {
     // An unknown main block compares as an empty block, which leaves only
     // the blocks without gates and objects.
-    const BlockInfo info = weaver_.blockPool.GetBlock(mainBlock);
-    for (const auto& block : weaver_.blockPool.blocks) {
+    const BlockInfo info = blockPool_.GetBlock(mainBlock);
+    for (const auto& block : blockPool_.blocks) {
         if (IsCompatibleWith(info, block.second))
             blockList.Add(block.first);
     }

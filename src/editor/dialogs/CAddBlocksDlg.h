@@ -8,7 +8,7 @@
 
 namespace lw {
 
-class Weaver;
+class BlocksContainer;
 
 // "Add Blocks": offers every block of the pool that could stand in for the
 // phase's main block, so that the phase can carry further sets of the same
@@ -17,7 +17,7 @@ class CAddBlocksDlg {
 public:
     static constexpr const char* kTitle = "Add Blocks";
 
-    CAddBlocksDlg(Weaver& weaver, const std::string& mainBlock);
+    CAddBlocksDlg(const BlocksContainer& blockPool, const std::string& mainBlock);
 
     // Takes the selected references; no selection is a valid, empty choice.
     // There is nothing to refuse, so the prompts go unused.
@@ -29,7 +29,7 @@ public:
     std::vector<std::string> chosen;
 
 private:
-    Weaver& weaver_;
+    const BlocksContainer& blockPool_;
 };
 
 } // namespace lw

@@ -252,7 +252,7 @@ void CPhasePropertiesDlg::OnAddBlocks(PhaseSubDialogs& sub) {
     const std::string mainBlock = mainBlockCombo.Text();
     if (mainBlock.empty())
         return;
-    CAddBlocksDlg dialog(weaver_, mainBlock);
+    CAddBlocksDlg dialog(weaver_.blockPool, mainBlock);
     if (!sub.Run(dialog))
         return;
     for (const std::string& reference : dialog.chosen)

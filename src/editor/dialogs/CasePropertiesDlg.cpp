@@ -1,16 +1,16 @@
 #include "dialogs/CasePropertiesDlg.h"
 
-#include "app/Weaver.h"
 #include "dialogs/MemberListEvents.h"
 #include "dialogs/Refuse.h"
 #include "objects/IdList.h"
 #include "operations/Acceptance.h"
+#include "operations/ObjectStore.h"
 
 namespace lw {
 
-CasePropertiesDlg::CasePropertiesDlg(Weaver& weaver, Case& caseObject,
+CasePropertiesDlg::CasePropertiesDlg(const ObjectStore& document, Case& caseObject,
                                      const std::vector<std::int32_t>& firstMembers)
-    : weaver_(weaver), caseObject_(caseObject) {
+    : document_(document), caseObject_(caseObject) {
     name = caseObject.name;
     const std::vector<std::int32_t>& source =
         firstMembers.empty() ? caseObject.phaseIds : firstMembers;
@@ -21,13 +21,13 @@ CasePropertiesDlg::CasePropertiesDlg(Weaver& weaver, Case& caseObject,
 
 void CasePropertiesDlg::FillMembers(const std::vector<std::int32_t>& source) {
     for (std::int32_t id : source) {
-        if (const Phase* phase = weaver_.FindPhase(id))
+        if (const Phase* phase = document_.FindPhase(id))
             memberList.Add(phase->name);
     }
 }
 
 void CasePropertiesDlg::FillCandidates(const std::vector<std::int32_t>& source) {
-    weaver_.ForEach<Phase>([&](const Phase& phase) {
+    document_.ForEach<Phase>([&](const Phase& phase) {
         if (phase.caseId == 0 && !ContainsId(source, phase.id))
             candidateCombo.Add(phase.name);
     });
@@ -43,7 +43,7 @@ void CasePropertiesDlg::OnRemove() {
 
 const std::string* CasePropertiesDlg::MemberOfOtherCase() const {
     for (int row = 0; row < memberList.Count(); ++row) {
-        const Phase* phase = weaver_.FindPhaseByName(memberList.At(row));
+        const Phase* phase = document_.FindPhaseByName(memberList.At(row));
         if (phase != nullptr && phase->caseId != 0 && phase->caseId != caseObject_.id)
             return &memberList.At(row);
     }
@@ -53,7 +53,7 @@ const std::string* CasePropertiesDlg::MemberOfOtherCase() const {
 bool CasePropertiesDlg::Ok(UserPrompts& prompts) {
     if (name.empty())
         return Refuse(prompts, "Name must not be empty!");
-    if (weaver_.CaseNameTaken(caseObject_.id, name))
+    if (document_.CaseNameTaken(caseObject_.id, name))
         return Refuse(prompts, "Case name is used by other case!");
     if (memberList.Count() == 0)
         return Refuse(prompts, "Case must have at least one phase!");
@@ -69,12 +69,12 @@ bool CasePropertiesDlg::Ok(UserPrompts& prompts) {
 // row is dropped here without a word.
 void CasePropertiesDlg::WriteMembers() {
     for (std::int32_t id : caseObject_.phaseIds) {
-        if (Phase* phase = weaver_.FindPhase(id))
+        if (Phase* phase = document_.FindPhase(id))
             phase->caseId = 0;
     }
     caseObject_.phaseIds.clear();
     for (const std::string& row : memberList.Texts()) {
-        if (Phase* phase = weaver_.FindPhaseByName(row)) {
+        if (Phase* phase = document_.FindPhaseByName(row)) {
             caseObject_.phaseIds.push_back(phase->id);
             phase->caseId = caseObject_.id;
         }
@@ -82,7 +82,7 @@ void CasePropertiesDlg::WriteMembers() {
 }
 
 bool CasePropertiesDlg::IsResultValid() const {
-    return IsAcceptable(weaver_, caseObject_);
+    return IsAcceptable(document_, caseObject_);
 }
 
 } // namespace lw

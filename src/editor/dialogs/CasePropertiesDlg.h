@@ -11,7 +11,7 @@
 
 namespace lw {
 
-class Weaver;
+class ObjectStore;
 
 // "Case Properties": which phases a case holds. The members are kept by name
 // until OK, which then rewires both sides of the relation, the case's
@@ -23,7 +23,7 @@ public:
 
     // `firstMembers` are the phases a new case starts with; empty when an
     // existing case is edited.
-    CasePropertiesDlg(Weaver& weaver, Case& caseObject,
+    CasePropertiesDlg(const ObjectStore& document, Case& caseObject,
                       const std::vector<std::int32_t>& firstMembers);
 
     // "Add phase": the combo's text, chosen or typed, becomes a member.
@@ -46,7 +46,7 @@ private:
     const std::string* MemberOfOtherCase() const;
     void WriteMembers();
 
-    Weaver& weaver_;
+    const ObjectStore& document_;
     Case& caseObject_;
 };
 

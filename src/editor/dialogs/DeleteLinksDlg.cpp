@@ -1,13 +1,13 @@
 #include "dialogs/DeleteLinksDlg.h"
 
-#include "app/Weaver.h"
+#include "operations/ObjectStore.h"
 
 namespace lw {
 
 // A link from the phase to itself is taken twice, once for each end.
-DeleteLinksDlg::DeleteLinksDlg(Weaver& weaver, const Phase& phase)
-    : phase_(phase), weaver_(weaver) {
-    for (const Link& link : weaver_.links) {
+DeleteLinksDlg::DeleteLinksDlg(const ObjectStore& document, const Phase& phase)
+    : phase_(phase), document_(document) {
+    for (const Link& link : document_.links) {
         if (link.fromPhaseId == phase_.id)
             shown.push_back(link);
         if (link.toPhaseId == phase_.id)
@@ -20,8 +20,8 @@ DeleteLinksDlg::DeleteLinksDlg(Weaver& weaver, const Phase& phase)
 // A link whose phase is gone gets no row, so the rows after it no longer
 // stand at the index of their link in `shown`.
 void DeleteLinksDlg::AddRow(const Link& link) {
-    const Phase* from = weaver_.FindPhase(link.fromPhaseId);
-    const Phase* to = weaver_.FindPhase(link.toPhaseId);
+    const Phase* from = document_.FindPhase(link.fromPhaseId);
+    const Phase* to = document_.FindPhase(link.toPhaseId);
     if (from == nullptr || to == nullptr)
         return;
     Row row;

@@ -11,7 +11,7 @@
 
 namespace lw {
 
-class Weaver;
+class ObjectStore;
 
 // Lists the links at a phase and marks some of them for deletion. The
 // document is only read; the caller deletes `toDelete` after OK.
@@ -28,7 +28,7 @@ public:
     // A row of the view: one text per column and whether it is selected.
     using Row = ReportRow<kColumns.size()>;
 
-    DeleteLinksDlg(Weaver& weaver, const Phase& phase);
+    DeleteLinksDlg(const ObjectStore& document, const Phase& phase);
 
     // "Delete Selected Links".
     void OnDeleteSelected();
@@ -45,7 +45,7 @@ private:
     int FirstSelectedRow() const;
 
     const Phase& phase_;
-    Weaver& weaver_;
+    const ObjectStore& document_;
 };
 
 } // namespace lw

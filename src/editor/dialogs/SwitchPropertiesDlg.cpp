@@ -1,16 +1,16 @@
 #include "dialogs/SwitchPropertiesDlg.h"
 
-#include "app/Weaver.h"
 #include "dialogs/MemberListEvents.h"
 #include "dialogs/Refuse.h"
 #include "objects/IdList.h"
 #include "operations/Acceptance.h"
+#include "operations/ObjectStore.h"
 
 namespace lw {
 
-SwitchPropertiesDlg::SwitchPropertiesDlg(Weaver& weaver, Switch& switchObject,
+SwitchPropertiesDlg::SwitchPropertiesDlg(const ObjectStore& document, Switch& switchObject,
                                          const std::vector<std::int32_t>& firstMembers)
-    : weaver_(weaver), switchObject_(switchObject) {
+    : document_(document), switchObject_(switchObject) {
     name = switchObject.name;
     number.digitsOnly = true;
     number.ShowInt(switchObject.number);
@@ -28,13 +28,13 @@ SwitchPropertiesDlg::SwitchPropertiesDlg(Weaver& weaver, Switch& switchObject,
 
 void SwitchPropertiesDlg::FillMembers(const std::vector<std::int32_t>& source) {
     for (std::int32_t id : source) {
-        if (const Case* found = weaver_.FindCase(id))
+        if (const Case* found = document_.FindCase(id))
             memberList.Add(found->name);
     }
 }
 
 void SwitchPropertiesDlg::FillCandidates(const std::vector<std::int32_t>& source) {
-    weaver_.ForEach<Case>([&](const Case& candidate) {
+    document_.ForEach<Case>([&](const Case& candidate) {
         if (candidate.switchId == 0 && !ContainsId(source, candidate.id))
             candidateCombo.Add(candidate.name);
     });
@@ -55,7 +55,7 @@ void SwitchPropertiesDlg::OnPreliminaryChanged() {
 
 const std::string* SwitchPropertiesDlg::MemberOfOtherSwitch() const {
     for (int row = 0; row < memberList.Count(); ++row) {
-        const Case* found = weaver_.FindCaseByName(memberList.At(row));
+        const Case* found = document_.FindCaseByName(memberList.At(row));
         if (found != nullptr && found->switchId != 0 && found->switchId != switchObject_.id)
             return &memberList.At(row);
     }
@@ -65,7 +65,7 @@ const std::string* SwitchPropertiesDlg::MemberOfOtherSwitch() const {
 bool SwitchPropertiesDlg::CheckFields(std::int32_t value, UserPrompts& prompts) const {
     if (name.empty())
         return Refuse(prompts, "Name must not be empty!");
-    if (weaver_.SwitchNameTaken(switchObject_.id, name))
+    if (document_.SwitchNameTaken(switchObject_.id, name))
         return Refuse(prompts, "Switch name is used by other switch!");
     if (memberList.Count() == 0)
         return Refuse(prompts, "Switch must have at least one case!");
@@ -96,12 +96,12 @@ bool SwitchPropertiesDlg::Ok(UserPrompts& prompts) {
 
 void SwitchPropertiesDlg::WriteMembers() {
     for (std::int32_t id : switchObject_.caseIds) {
-        if (Case* found = weaver_.FindCase(id))
+        if (Case* found = document_.FindCase(id))
             found->switchId = 0;
     }
     switchObject_.caseIds.clear();
     for (const std::string& row : memberList.Texts()) {
-        if (Case* found = weaver_.FindCaseByName(row)) {
+        if (Case* found = document_.FindCaseByName(row)) {
             switchObject_.caseIds.push_back(found->id);
             found->switchId = switchObject_.id;
         }
@@ -109,7 +109,7 @@ void SwitchPropertiesDlg::WriteMembers() {
 }
 
 bool SwitchPropertiesDlg::IsResultValid() const {
-    return IsAcceptable(weaver_, switchObject_);
+    return IsAcceptable(document_, switchObject_);
 }
 
 } // namespace lw

@@ -12,7 +12,7 @@
 
 namespace lw {
 
-class Weaver;
+class ObjectStore;
 
 // "Switch properties": which cases a switch holds, how many of them it picks
 // and what the generator checks first. OK writes the fields and rewires both
@@ -32,7 +32,7 @@ public:
 
     // `firstMembers` are the cases a new switch starts with; empty when an
     // existing switch is edited.
-    SwitchPropertiesDlg(Weaver& weaver, Switch& switchObject,
+    SwitchPropertiesDlg(const ObjectStore& document, Switch& switchObject,
                         const std::vector<std::int32_t>& firstMembers);
 
     // "Add Case": the chosen candidate becomes a member.
@@ -64,7 +64,7 @@ private:
     const std::string* MemberOfOtherSwitch() const;
     void WriteMembers();
 
-    Weaver& weaver_;
+    const ObjectStore& document_;
     Switch& switchObject_;
 };
 

@@ -1,8 +1,8 @@
 #include "dialogs/UnlinkPropertiesDlg.h"
 
-#include "app/Weaver.h"
 #include "dialogs/Refuse.h"
 #include "operations/Acceptance.h"
+#include "operations/ObjectStore.h"
 
 #include <string>
 #include <vector>
@@ -26,17 +26,17 @@ void MoveSelectedRows(ListField& from, ListField& to) {
 
 } // namespace
 
-UnlinkPropertiesDlg::UnlinkPropertiesDlg(Weaver& weaver, Unlinker& unlinker,
+UnlinkPropertiesDlg::UnlinkPropertiesDlg(const ObjectStore& document, Unlinker& unlinker,
                                          std::int32_t preselectedPhaseId)
-    : weaver_(weaver), unlinker_(unlinker) {
-    weaver_.ForEach<Phase>([&](const Phase& phase) { phaseCombo.Add(phase.name); });
+    : document_(document), unlinker_(unlinker) {
+    document_.ForEach<Phase>([&](const Phase& phase) { phaseCombo.Add(phase.name); });
     phaseCombo.SetCurrent(-1);
-    if (const Phase* own = weaver_.FindPhase(unlinker.phaseId))
+    if (const Phase* own = document_.FindPhase(unlinker.phaseId))
         phaseCombo.SelectByText(own->name);
     // The phase of an existing unlinker is fixed.
     phaseCombo.enabled = phaseCombo.Current() < 0;
     if (preselectedPhaseId != 0) {
-        if (const Phase* offered = weaver_.FindPhase(preselectedPhaseId))
+        if (const Phase* offered = document_.FindPhase(preselectedPhaseId))
             phaseCombo.SelectByText(offered->name);
     }
     RefillGateLists();
@@ -47,7 +47,7 @@ void UnlinkPropertiesDlg::RefillGateLists() {
     gateList.Clear();
     unlinkList.Clear();
     const Phase* phase =
-        phaseCombo.Current() >= 0 ? weaver_.FindPhaseByName(phaseCombo.Text()) : nullptr;
+        phaseCombo.Current() >= 0 ? document_.FindPhaseByName(phaseCombo.Text()) : nullptr;
     if (phase == nullptr)
         return;
     for (const GateSlot& gate : phase->inputs) {
@@ -83,7 +83,7 @@ void UnlinkPropertiesDlg::OnMoveBack() {
 
 bool UnlinkPropertiesDlg::PhaseHasOtherUnlinker(const Phase& phase) const {
     bool found = false;
-    weaver_.ForEach<Unlinker>([&](const Unlinker& other) {
+    document_.ForEach<Unlinker>([&](const Unlinker& other) {
         found = found || (other.id != unlinker_.id && other.phaseId == phase.id);
     });
     return found;
@@ -92,7 +92,7 @@ bool UnlinkPropertiesDlg::PhaseHasOtherUnlinker(const Phase& phase) const {
 bool UnlinkPropertiesDlg::Ok(UserPrompts& prompts) {
     if (phaseCombo.Current() < 0)
         return Refuse(prompts, "Phase must be selected!");
-    const Phase* phase = weaver_.FindPhaseByName(phaseCombo.Text());
+    const Phase* phase = document_.FindPhaseByName(phaseCombo.Text());
     if (phase == nullptr)
         return Refuse(prompts, "Corrupted phase selected!");
     if (PhaseHasOtherUnlinker(*phase))
@@ -124,7 +124,7 @@ void UnlinkPropertiesDlg::WriteGates() {
 }
 
 bool UnlinkPropertiesDlg::IsResultValid() const {
-    return IsAcceptable(weaver_, unlinker_);
+    return IsAcceptable(document_, unlinker_);
 }
 
 } // namespace lw

@@ -9,7 +9,7 @@
 
 namespace lw {
 
-class Weaver;
+class ObjectStore;
 class Phase;
 
 // "Unlink properties (unlink non-player gates)": the gates of one phase that
@@ -21,7 +21,8 @@ public:
 
     // `preselectedPhaseId` is the phase a new unlinker is offered for; 0 for
     // none.
-    UnlinkPropertiesDlg(Weaver& weaver, Unlinker& unlinker, std::int32_t preselectedPhaseId);
+    UnlinkPropertiesDlg(const ObjectStore& document, Unlinker& unlinker,
+                        std::int32_t preselectedPhaseId);
 
     // Another phase was chosen: its gates fill the lists anew.
     void OnPhaseChanged();
@@ -45,7 +46,7 @@ private:
     bool PhaseHasOtherUnlinker(const Phase& phase) const;
     void WriteGates();
 
-    Weaver& weaver_;
+    const ObjectStore& document_;
     Unlinker& unlinker_;
 };
 

@@ -19,7 +19,7 @@ namespace lw {
 // references by which other objects point back at it.
 template <typename T> class UR_AddObjectCmd : public UR_Command {
 public:
-    UR_AddObjectCmd(Weaver* editor, const T& object) : UR_Command(editor), snapshot(object) {}
+    UR_AddObjectCmd(ObjectStore* editor, const T& object) : UR_Command(editor), snapshot(object) {}
     void Undo() override;
     void Redo() override;
 
@@ -58,7 +58,7 @@ public:
 // The phase's own `actionIds` names them, so neither step needs to touch it.
 class UR_AddNewPhaseCmd : public UR_Command {
 public:
-    UR_AddNewPhaseCmd(Weaver* editor, const Phase& phase) : UR_Command(editor), phase(phase) {}
+    UR_AddNewPhaseCmd(ObjectStore* editor, const Phase& phase) : UR_Command(editor), phase(phase) {}
     // The caller adds the phase's actions in the order they were made.
     void AddAction(const Action& action) { actions.emplace_back(action); }
     void Undo() override;
@@ -71,7 +71,7 @@ private:
 
 class UR_AddNewLinkCmd : public UR_Command {
 public:
-    UR_AddNewLinkCmd(Weaver* editor, const Link& link) : UR_Command(editor), link(link) {}
+    UR_AddNewLinkCmd(ObjectStore* editor, const Link& link) : UR_Command(editor), link(link) {}
     // Erases the first equal link only: the same link may stand twice.
     void Undo() override;
     void Redo() override;

@@ -1,6 +1,6 @@
 #include "undo/UR_DeleteLinksCmd.h"
 
-#include "app/Weaver.h"
+#include "operations/ObjectStore.h"
 
 namespace lw {
 

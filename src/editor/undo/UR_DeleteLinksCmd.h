@@ -11,7 +11,7 @@ namespace lw {
 // pushed the command.
 class UR_DeleteLinksCmd : public UR_Command {
 public:
-    UR_DeleteLinksCmd(Weaver* editor, const std::vector<Link>& links)
+    UR_DeleteLinksCmd(ObjectStore* editor, const std::vector<Link>& links)
         : UR_Command(editor), links(links) {}
     void Undo() override;
     void Redo() override;

@@ -1,7 +1,7 @@
 #include "undo/UR_DeleteObjectsCmd.h"
 
-#include "app/Weaver.h"
 #include "operations/EraseMarked.h"
+#include "operations/ObjectStore.h"
 #include "undo/CommandSteps.h"
 
 #include <algorithm>
@@ -95,7 +95,8 @@ void SetGeometryLinks(ObjectStore& store, const std::vector<std::int32_t>& refer
 
 } // namespace
 
-UR_DeleteObjectsCmd::UR_DeleteObjectsCmd(Weaver* editor, ObjectsGroup& group) : UR_Command(editor) {
+UR_DeleteObjectsCmd::UR_DeleteObjectsCmd(ObjectStore* editor, ObjectsGroup& group)
+    : UR_Command(editor) {
     const Deletion deletion(*editor, group);
     linkTaken.assign(editor->links.size(), false);
     for (EditorObject* member : group.members)

@@ -25,7 +25,7 @@ namespace lw {
 class UR_DeleteObjectsCmd : public UR_Command {
 public:
     // Makes the whole deletion, and leaves the group empty.
-    UR_DeleteObjectsCmd(Weaver* editor, ObjectsGroup& group);
+    UR_DeleteObjectsCmd(ObjectStore* editor, ObjectsGroup& group);
 
     // Whether the deletion found nothing to take, as when only an action of a
     // block property was selected; such a command is not kept.

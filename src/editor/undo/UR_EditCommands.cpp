@@ -1,6 +1,6 @@
 #include "undo/UR_EditCommands.h"
 
-#include "app/Weaver.h"
+#include "operations/ObjectStore.h"
 #include "undo/CommandSteps.h"
 
 namespace lw {

@@ -24,7 +24,7 @@ namespace lw {
 // Everything else of the object is left as it stands then.
 template <typename T> class UR_EditObjectCmd : public UR_Command {
 public:
-    UR_EditObjectCmd(Weaver* editor, const T& object) : UR_Command(editor), before(object) {}
+    UR_EditObjectCmd(ObjectStore* editor, const T& object) : UR_Command(editor), before(object) {}
     // Takes the object as the dialog left it. A command never completed has
     // nothing to redo.
     void Complete(const T& object) { after.emplace(object); }

@@ -1,6 +1,6 @@
 #include "undo/UR_EditPhaseCmd.h"
 
-#include "app/Weaver.h"
+#include "operations/ObjectStore.h"
 #include "undo/CommandSteps.h"
 
 namespace lw {

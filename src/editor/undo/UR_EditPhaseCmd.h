@@ -17,7 +17,7 @@ namespace lw {
 // keeps its new gates and a new colour survives an undo.
 class UR_EditPhaseCmd : public UR_Command {
 public:
-    UR_EditPhaseCmd(Weaver* editor, const Phase& phase) : UR_Command(editor), before(phase) {}
+    UR_EditPhaseCmd(ObjectStore* editor, const Phase& phase) : UR_Command(editor), before(phase) {}
 
     // Called once the change has been made. Losing the primary link takes
     // the checks measured from it along, in the same undo step.

@@ -1,6 +1,6 @@
 #include "undo/UR_ImportTemplateDesc.h"
 
-#include "app/Weaver.h"
+#include "operations/ObjectStore.h"
 #include "operations/TemplateBuilder.h"
 
 #include <algorithm>
@@ -70,17 +70,18 @@ private:
 
 } // namespace
 
-UR_ImportTemplateDesc::UR_ImportTemplateDesc(Weaver* editor, TemplateDesc desc,
+UR_ImportTemplateDesc::UR_ImportTemplateDesc(ObjectStore* editor, BlocksContainer& blockPool,
+                                             UserPrompts& prompts, TemplateDesc desc,
                                              std::int32_t targetX, std::int32_t targetY)
-    : UR_Command(editor), desc(std::move(desc)), targetX(targetX), targetY(targetY) {}
+    : UR_Command(editor), desc(std::move(desc)), targetX(targetX), targetY(targetY),
+      blockPool_(blockPool), prompts_(prompts) {}
 
 void UR_ImportTemplateDesc::Run(bool selectResult) {
     // Building uses up the records it reads, and the kept description must
     // serve every later redo.
     TemplateDesc working = desc;
     ObjectList made;
-    TemplateBuilder(*editor, editor->blockPool, editor->prompts)
-        .Build(working, &made, &importedLinks);
+    TemplateBuilder(*editor, blockPool_, prompts_).Build(working, &made, &importedLinks);
     // Names are made unique only now: while building, the imported names had
     // to find the imported objects, and by now everything refers by id.
     AnchorBox box;

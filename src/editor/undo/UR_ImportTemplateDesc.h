@@ -1,8 +1,10 @@
 #pragma once
 
+#include "catalog/BlocksContainer.h"
 #include "document/TemplateDesc.h"
 #include "objects/EditorObject.h"
 #include "objects/Link.h"
+#include "platform/UserPrompts.h"
 #include "undo/UR_Command.h"
 
 #include <cstdint>
@@ -17,8 +19,10 @@ namespace lw {
 // after the first run that named the old ids find nothing any more.
 class UR_ImportTemplateDesc : public UR_Command {
 public:
-    UR_ImportTemplateDesc(Weaver* editor, TemplateDesc desc, std::int32_t targetX,
-                          std::int32_t targetY);
+    // Building reads the blocks from the pool and tells the user of what it
+    // cannot build.
+    UR_ImportTemplateDesc(ObjectStore* editor, BlocksContainer& blockPool, UserPrompts& prompts,
+                          TemplateDesc desc, std::int32_t targetX, std::int32_t targetY);
 
     // Builds the template centred on the target; with `selectResult` what it
     // made is added to the selection.
@@ -32,6 +36,10 @@ public:
     std::vector<Link> importedLinks;
     std::int32_t targetX;
     std::int32_t targetY;
+
+private:
+    BlocksContainer& blockPool_;
+    UserPrompts& prompts_;
 };
 
 } // namespace lw

@@ -1,10 +1,10 @@
 #include "undo/UR_MoveObjectsCmd.h"
 
-#include "app/Weaver.h"
+#include "operations/ObjectStore.h"
 
 namespace lw {
 
-UR_MoveObjectsCmd::UR_MoveObjectsCmd(Weaver* editor, std::int32_t deltaX, std::int32_t deltaY,
+UR_MoveObjectsCmd::UR_MoveObjectsCmd(ObjectStore* editor, std::int32_t deltaX, std::int32_t deltaY,
                                      const std::vector<EditorObject*>& moved)
     : UR_Command(editor), deltaX(deltaX), deltaY(deltaY) {
     for (const EditorObject* object : moved)

@@ -12,7 +12,7 @@ namespace lw {
 // moved. The selection's rectangle is left for the canvas to recalculate.
 class UR_MoveObjectsCmd : public UR_Command {
 public:
-    UR_MoveObjectsCmd(Weaver* editor, std::int32_t deltaX, std::int32_t deltaY,
+    UR_MoveObjectsCmd(ObjectStore* editor, std::int32_t deltaX, std::int32_t deltaY,
                       const std::vector<EditorObject*>& moved);
     void Undo() override;
     void Redo() override;

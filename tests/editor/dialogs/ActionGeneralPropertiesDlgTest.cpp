@@ -29,7 +29,7 @@ protected:
     // Chooses, types and adds on a fresh dialog; answers its rules then.
     Rules Add(const std::string& rule, const std::string& parameter = "",
               const std::string& condition = "") {
-        ActionGeneralPropertiesDlg dialog(e.weaver, action);
+        ActionGeneralPropertiesDlg dialog(e.weaver.ruleCatalogue, action);
         Choose(dialog, rule);
         dialog.parameter = parameter;
         dialog.condition = condition;
@@ -43,7 +43,7 @@ protected:
 
 TEST_F(ActionGeneralPropertiesDlgTest, HandMadeAndPropertyActionsAreOfferedDifferentRules) {
     action.rules = {{"set_counter", {"Fuel", "3"}, "if(a>1); "}};
-    ActionGeneralPropertiesDlg handMade(e.weaver, action);
+    ActionGeneralPropertiesDlg handMade(e.weaver.ruleCatalogue, action);
     EXPECT_EQ(
         handMade.ruleCombo.Texts(),
         (Texts{"add_flag", "dawn_pack", "import_harbour_pack", "import_night_pack", "note_text",
@@ -54,14 +54,14 @@ TEST_F(ActionGeneralPropertiesDlgTest, HandMadeAndPropertyActionsAreOfferedDiffe
               (std::array<std::string, 2>{"set_counter(Fuel,3);", "if(a>1); "}));
 
     action.objectName = "fuel_load";
-    ActionGeneralPropertiesDlg fromProperty(e.weaver, action);
+    ActionGeneralPropertiesDlg fromProperty(e.weaver.ruleCatalogue, action);
     EXPECT_EQ(fromProperty.ruleCombo.Texts(),
               (Texts{"formation_pack", "import_escort_pack", "import_raid_pack", "set_altitude",
                      "set_fuel", "set_payload", "set_speed", "skill_pack"}));
 }
 
 TEST_F(ActionGeneralPropertiesDlgTest, PreviewFillsEveryPlaceholderAndIsStoredAsShown) {
-    ActionGeneralPropertiesDlg sample(e.weaver, action);
+    ActionGeneralPropertiesDlg sample(e.weaver.ruleCatalogue, action);
     EXPECT_EQ(sample.BuildParameterText(), "");
     Choose(sample, "spawn_delay");
     sample.parameter = "30";
@@ -71,7 +71,7 @@ TEST_F(ActionGeneralPropertiesDlgTest, PreviewFillsEveryPlaceholderAndIsStoredAs
     rule.name = "set_value";
     rule.format = "set_value($property, $value)";
     e.weaver.ruleCatalogue.rules = {rule};
-    ActionGeneralPropertiesDlg dialog(e.weaver, action);
+    ActionGeneralPropertiesDlg dialog(e.weaver.ruleCatalogue, action);
     Choose(dialog, "set_value");
     dialog.parameter = "50";
     dialog.OnParameterChanged();
@@ -88,7 +88,7 @@ TEST_F(ActionGeneralPropertiesDlgTest, PreviewFillsEveryPlaceholderAndIsStoredAs
 }
 
 TEST_F(ActionGeneralPropertiesDlgTest, ConditionKeepsOnlyPiecesWithAnOperator) {
-    ActionGeneralPropertiesDlg dialog(e.weaver, action);
+    ActionGeneralPropertiesDlg dialog(e.weaver.ruleCatalogue, action);
     const std::vector<std::pair<std::string, std::string>> cases = {
         {"", ""},
         {"ready", ""},
@@ -119,7 +119,7 @@ TEST_F(ActionGeneralPropertiesDlgTest, PlainRulesTakeTheirParametersFromThePrevi
 }
 
 TEST_F(ActionGeneralPropertiesDlgTest, ComplexRulesBringTheirAddsOrAnImport) {
-    ActionGeneralPropertiesDlg dialog(e.weaver, action);
+    ActionGeneralPropertiesDlg dialog(e.weaver.ruleCatalogue, action);
     Choose(dialog, "dawn_pack");
     EXPECT_FALSE(dialog.parameterEnabled || dialog.conditionEnabled);
     EXPECT_EQ(dialog.imported, "set_time(dawn) \r\nset_light(low,12) if(season==2); \r\n");
@@ -161,7 +161,7 @@ TEST_F(ActionGeneralPropertiesDlgTest, RefusalsAreSilentButForAMissingChoice) {
 TEST_F(ActionGeneralPropertiesDlgTest, DeleteTakesTheSelectedRowsAndOkWritesWhatIsLeft) {
     const Rules four = {{"a", {}, ""}, {"b", {}, ""}, {"c", {}, ""}, {"d", {"x"}, ""}};
     action.rules = four;
-    ActionGeneralPropertiesDlg dialog(e.weaver, action);
+    ActionGeneralPropertiesDlg dialog(e.weaver.ruleCatalogue, action);
     dialog.ruleList[0].selected = true;
     dialog.ruleList[2].selected = true;
     dialog.OnDelete();

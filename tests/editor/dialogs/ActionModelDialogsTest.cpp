@@ -64,7 +64,7 @@ TEST_F(ActionModelDialogsTest, SkinAndCountryOkRefuseNoChoiceThenKeepOneRuleAndI
 }
 
 TEST_F(ActionModelDialogsTest, MakeItListFollowsTheTypeText) {
-    ActionModelPropertiesDlg dlg(e.weaver, MakeAction({}));
+    ActionModelPropertiesDlg dlg(e.weaver.modelList, MakeAction({}));
     EXPECT_EQ(dlg.typeCombo.Count(), 21);
     EXPECT_EQ(dlg.typeCombo.At(0), "balloon") << "sorted";
     EXPECT_EQ(dlg.makeItCombo.Texts(), (Texts{"random enemy", "random friendly", "server decides"}))
@@ -95,7 +95,7 @@ TEST_F(ActionModelDialogsTest, MakeItListFollowsTheTypeText) {
 
 TEST_F(ActionModelDialogsTest, StoredMakeItComesBackOnlyWhereTheNewListHoldsIt) {
     ActionModelPropertiesDlg dlg(
-        e.weaver, MakeAction({{"set_model", {"fighter", "foe:fighter:corvane_e"}, ""}}));
+        e.weaver.modelList, MakeAction({{"set_model", {"fighter", "foe:fighter:corvane_e"}, ""}}));
     EXPECT_EQ(dlg.typeCombo.Text(), "fighter");
     EXPECT_EQ(dlg.makeItCombo.Text(), "foe:fighter:corvane_e");
 
@@ -108,7 +108,7 @@ TEST_F(ActionModelDialogsTest, StoredMakeItComesBackOnlyWhereTheNewListHoldsIt) 
     EXPECT_EQ(dlg.makeItCombo.Text(), "foe:fighter:corvane_e");
 
     // Only a rule of exactly two parameters offers its second.
-    ActionModelPropertiesDlg three(e.weaver,
+    ActionModelPropertiesDlg three(e.weaver.modelList,
                                    MakeAction({{"set_model", {"gun", "server decides", "x"}, ""}}));
     EXPECT_EQ(three.typeCombo.Text(), "gun");
     EXPECT_EQ(three.makeItCombo.Current(), -1);
@@ -117,7 +117,7 @@ TEST_F(ActionModelDialogsTest, StoredMakeItComesBackOnlyWhereTheNewListHoldsIt) 
 TEST_F(ActionModelDialogsTest, ModelOkChecksInOrderThenWritesOneRuleOfTwoParams) {
     Action& action =
         MakeAction({{"set_model", {"glider", "random enemy"}, "cond"}, {"second", {"a"}, ""}});
-    ActionModelPropertiesDlg dlg(e.weaver, action);
+    ActionModelPropertiesDlg dlg(e.weaver.modelList, action);
     EXPECT_EQ(dlg.makeItCombo.Text(), "random enemy") << "an unknown type still offers these";
     EXPECT_FALSE(dlg.Ok(e.prompts));
     dlg.typeCombo.SelectByText("recon");

@@ -22,7 +22,7 @@ protected:
 };
 
 TEST_F(AddBlocksTest, OffersTheCompatibleBlocksInKeyOrderWithTheMainBlockAmongThem) {
-    CAddBlocksDlg dialog(e.weaver, kPatrolHigh);
+    CAddBlocksDlg dialog(e.weaver.blockPool, kPatrolHigh);
     EXPECT_EQ(dialog.mainBlock, kPatrolHigh);
     EXPECT_EQ(dialog.blockList.Texts(), (Texts{kPatrol, kPatrolHigh, kPatrolLow}));
 
@@ -34,7 +34,7 @@ TEST_F(AddBlocksTest, OffersTheCompatibleBlocksInKeyOrderWithTheMainBlockAmongTh
 }
 
 TEST_F(AddBlocksTest, NoSelectionIsAnEmptyChoice) {
-    CAddBlocksDlg dialog(e.weaver, "scg\\0\\blocks\\air\\landing.group");
+    CAddBlocksDlg dialog(e.weaver.blockPool, "scg\\0\\blocks\\air\\landing.group");
     EXPECT_EQ(dialog.blockList.Texts(), Texts{"scg\\0\\blocks\\air\\landing.group"});
     ASSERT_TRUE(dialog.Ok(e.prompts));
     EXPECT_TRUE(dialog.chosen.empty());
@@ -46,7 +46,7 @@ TEST_F(AddBlocksTest, AnUnknownMainBlockOffersOnlyBlocksWithoutGatesOrObjects) {
     withObject.dynamics["Ship"] = {"Model"};
     e.weaver.blockPool.Put(bare, BlockInfo{});
     e.weaver.blockPool.Put("scg\\0\\blocks\\naval\\crew.group", withObject);
-    CAddBlocksDlg dialog(e.weaver, "scg\\0\\blocks\\nowhere.group");
+    CAddBlocksDlg dialog(e.weaver.blockPool, "scg\\0\\blocks\\nowhere.group");
     EXPECT_EQ(dialog.blockList.Texts(), Texts{bare});
 }
 

@@ -22,7 +22,7 @@ private slots:
     }
 
     void aTypedRuleIsPreviewedAddedAndWritten() {
-        lw::ActionGeneralPropertiesDlg form(editor_->weaver, *action_);
+        lw::ActionGeneralPropertiesDlg form(editor_->weaver.ruleCatalogue, *action_);
         QtActionGeneralPropertiesDlg dlg(form, editor_->prompts);
         dlg.show();
         auto* rules = dlg.findChild<QComboBox*>("ruleCombo");
@@ -47,7 +47,7 @@ private slots:
     }
 
     void addingWithNoRuleChosenAsksForOne() {
-        lw::ActionGeneralPropertiesDlg form(editor_->weaver, *action_);
+        lw::ActionGeneralPropertiesDlg form(editor_->weaver.ruleCatalogue, *action_);
         QtActionGeneralPropertiesDlg dlg(form, editor_->prompts);
         dlg.show();
         dlg.findChild<QPushButton*>("addRuleButton")->click();

@@ -16,7 +16,7 @@ private slots:
         editor.StartUp();
         lw::Action& action = *editor.weaver.NewAction();
         action.rules = {{"set_model", {"fighter", "server decides"}, ""}};
-        lw::ActionModelPropertiesDlg form(editor.weaver, action);
+        lw::ActionModelPropertiesDlg form(editor.weaver.modelList, action);
         QtActionModelPropertiesDlg dlg(form, editor.prompts);
         dlg.show();
         auto* types = dlg.findChild<QComboBox*>("typeCombo");

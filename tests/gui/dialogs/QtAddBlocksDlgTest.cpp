@@ -14,7 +14,7 @@ private slots:
     void theSelectedBlocksAreChosenOnOk() {
         lw::test::SampleEditor e;
         e.StartUp();
-        lw::CAddBlocksDlg form(e.weaver, "scg\\0\\blocks\\air\\patrol.group");
+        lw::CAddBlocksDlg form(e.weaver.blockPool, "scg\\0\\blocks\\air\\patrol.group");
         QtAddBlocksDlg dlg(form, e.prompts);
         dlg.show();
         QCOMPARE(dlg.windowTitle(), QString("Add Blocks"));
@@ -32,7 +32,7 @@ private slots:
     void cancelChoosesNothing() {
         lw::test::SampleEditor e;
         e.StartUp();
-        lw::CAddBlocksDlg form(e.weaver, "scg\\0\\blocks\\air\\patrol.group");
+        lw::CAddBlocksDlg form(e.weaver.blockPool, "scg\\0\\blocks\\air\\patrol.group");
         QtAddBlocksDlg dlg(form, e.prompts);
         dlg.show();
         dlg.findChild<QListWidget*>("blockList")->item(0)->setSelected(true);
