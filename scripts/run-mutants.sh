@@ -4,6 +4,7 @@
 # reports which faults the suite caught (killed) and which it missed
 # (survived). A fault that does not compile, or whose line is not found
 # exactly once, is an error in the list. Not part of CI: it takes minutes.
+# A mutant's run stops at the first failing test: one is enough to kill it.
 #
 #   scripts/run-mutants.sh [list] [ctest-regex]
 #
@@ -79,7 +80,7 @@ open(path, "wb").write("\n".join(lines).encode("latin-1"))' "$target"
         echo "ERROR   $label (does not compile)" | tee -a "$report"
         errors=$((errors + 1))
     elif ctest --test-dir "$BUILD" -R "$TESTS" -E 'Format\.' --parallel "$(nproc)" \
-        --timeout 300 >/dev/null 2>&1; then
+        --timeout 300 --stop-on-failure >/dev/null 2>&1; then
         echo "SURVIVED $label" | tee -a "$report"
         survived=$((survived + 1))
     else

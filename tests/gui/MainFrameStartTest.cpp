@@ -55,20 +55,6 @@ private slots:
         QVERIFY(!weaver.blockPool.blocks.empty());
     }
 
-    void captionIsTheApplicationNameUntilTheFirstRefresh() {
-        // Options stored: no first start, which would open a template.
-        QSettings(lw::kOrganizationName, lw::kApplicationName)
-            .setValue("LoomwrightOptions/OpenLastUsedTemplateOnStart", 1);
-        CMainFrame frame;
-        QVERIFY(frame.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
-        QCOMPARE(frame.windowTitle(), QString(lw::kApplicationName));
-        frame.weaver().fileName = "scg\\sample_small.mt";
-        frame.weaver().RefreshTitle();
-        QCOMPARE(frame.windowTitle(), QString("Loomwright - scg\\sample_small.mt"));
-        frame.weaver().undoManager.Push(nullptr);
-        QCOMPARE(frame.windowTitle(), QString("Loomwright - scg\\sample_small.mt*"));
-    }
-
     void canvasIsWhiteInsideABlackFrame() {
         CMainFrame frame;
         QVERIFY(frame.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
@@ -100,15 +86,6 @@ private slots:
         CMainFrame next;
         QVERIFY(next.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
         QVERIFY(next.weaver().options.DrawChecks);
-    }
-
-    void opensTheLastUsedTemplateAtStart() {
-        SetLastUsedTemplate("scg\\sample_rich.mt");
-        CMainFrame frame;
-        QVERIFY(frame.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
-        QCOMPARE(frame.windowTitle(), QString("Loomwright - scg\\sample_rich.mt"));
-        QVERIFY(frame.weaver().objects.size() > 17);
-        QCOMPARE(frame.weaver().selection.view, &frame.view());
     }
 
     void closingWithChangesAsksFirst() {

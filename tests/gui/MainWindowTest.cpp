@@ -3,9 +3,6 @@
 #include "FindBar.h"
 #include "LockKeyIndicators.h"
 #include "ProblemsPanel.h"
-#include "QtPrompts.h"
-#include "QtPropertyDialogs.h"
-#include "ScriptedDialogRunner.h"
 #include "app/AppInfo.h"
 #include "app/CommandTable.h"
 
@@ -30,7 +27,6 @@
 #include <sstream>
 
 using lw::CommandId;
-using namespace lw::test;
 
 namespace {
 
@@ -241,60 +237,6 @@ private slots:
         const std::string saved = ReadFile(target.toStdString());
         QVERIFY(saved.find("gui_helper; PlayerStart; ") != std::string::npos);
         QVERIFY(saved.find("\r\n") != std::string::npos);
-    }
-
-    void enableRulesWithNoSelectionAndWhilePlacingAPhase() {
-        const std::vector<CommandId> idleOnly = {
-            CommandId::FileNew,     CommandId::FileOpen,  CommandId::FileSaveAs,
-            CommandId::EditPaste,   CommandId::AddPhase,  CommandId::AddUnlinker,
-            CommandId::AddCase,     CommandId::AddSwitch, CommandId::ImportTemplate,
-            CommandId::ReloadBlocks};
-        const std::vector<CommandId> selectionOnly = {CommandId::EditCut, CommandId::EditCopy,
-                                                      CommandId::SaveSelection};
-        for (CommandId command : idleOnly)
-            QVERIFY(Enabled(command));
-        for (CommandId command : selectionOnly)
-            QVERIFY(!Enabled(command));
-        QVERIFY(!Enabled(CommandId::FileSave));
-        QTest::keyClick(frame.get(), Qt::Key_X, Qt::ControlModifier);
-        QCOMPARE(frame->weaver().objects.size(), objectsAtStart());
-
-        // A drag first, so that Undo would have something to take while the
-        // phase is placed; it is refused all the same.
-        Drag(view, At("PlayerStart"), At("PlayerStart") + QPoint(0, 30));
-        QtPrompts prompts;
-        ScriptedDialogRunner runner;
-        QtPropertyDialogs dialogs(frame->weaver(), prompts, runner);
-        frame->weaver().SetPropertyDialogs(&dialogs);
-        runner.Queue([](QDialog& dialog) {
-            Type(dialog, "name", "NewPhase");
-            Choose(dialog, "mainBlockCombo", "scg\\0\\blocks\\air\\patrol.group");
-            PressOk(dialog);
-        });
-        auto* addPhase = frame->actions().Toolbar()->widgetForAction(
-            frame->actions().Action(CommandId::AddPhase));
-        qobject_cast<QToolButton*>(addPhase)->click();
-        QCOMPARE(frame->weaver().Gesture().Number(), int(lw::InteractionState::StatePlacePhase));
-        QCOMPARE(view->cursor().shape(), Qt::BitmapCursor);
-        for (CommandId command : idleOnly)
-            QVERIFY(!Enabled(command));
-        for (CommandId command : selectionOnly)
-            QVERIFY(!Enabled(command));
-        QVERIFY(!Enabled(CommandId::FileSave));
-        QVERIFY(!Enabled(CommandId::EditUndo));
-        QVERIFY(Enabled(CommandId::ViewZoomFit));
-        // A disabled key does nothing either: no question about the changes.
-        QTest::keyClick(frame.get(), Qt::Key_N, Qt::ControlModifier);
-        QCOMPARE(frame->weaver().Gesture().Number(), int(lw::InteractionState::StatePlacePhase));
-
-        Click(view, QPoint(500, 600));
-        QCOMPARE(frame->weaver().Gesture().Number(), int(lw::InteractionState::StateIdle));
-        QCOMPARE(view->cursor().shape(), Qt::ArrowCursor);
-        QVERIFY(frame->weaver().FindPhaseByName("NewPhase") != nullptr);
-        for (CommandId command : idleOnly)
-            QVERIFY(Enabled(command));
-        QVERIFY(Enabled(CommandId::FileSave));
-        frame->weaver().SetPropertyDialogs(nullptr);
     }
 
     void statusBarShowsTheCommandsTextsAndTheLocks() {
@@ -584,8 +526,6 @@ private:
         return names;
     }
 
-    bool Enabled(CommandId command) const { return frame->actions().Action(command)->isEnabled(); }
-
     // What a modal dialog is, in a few words: its folder for a file
     // dialog, its icon and title for a message box, else its title.
     static QString Describe(QDialog& dialog) {
@@ -597,8 +537,6 @@ private:
         }
         return dialog.windowTitle();
     }
-
-    std::size_t objectsAtStart() const { return frame->weaver().objects.size(); }
 
     QStringList ContextMenuAt(QPoint point) {
         QStringList texts;

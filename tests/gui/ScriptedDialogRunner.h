@@ -8,6 +8,7 @@
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QStringList>
 #include <deque>
 #include <functional>
@@ -28,6 +29,8 @@ public:
     bool Run(QDialog& dialog) override {
         titles.append(dialog.windowTitle());
         dialog.show();
+        if (!dialog.screen()->availableGeometry().contains(dialog.geometry()))
+            offScreen.append(dialog.windowTitle());
         if (fills_.empty()) {
             dialog.reject();
             return false;
@@ -40,6 +43,8 @@ public:
 
     // The titles of the dialogs opened, in order.
     QStringList titles;
+    // The titles of those that reached past the screen.
+    QStringList offScreen;
 
 private:
     std::deque<Fill> fills_;

@@ -12,13 +12,6 @@ TEST(ToolInfoTest, FindsTheSampleDataNextToTheBuildByItself) {
     EXPECT_NE(run.output.find("blocks: scg\\0\\blocks\\air ("), std::string::npos) << run.output;
 }
 
-TEST(ToolInfoTest, AnEmptyDataFolderStartsWithDefaults) {
-    const ToolRun run = RunTool("info --data /nonexistent-loomwright-folder");
-    EXPECT_EQ(run.status, 0);
-    EXPECT_NE(run.output.find("models: models.cfg (0 types, 0 models)"), std::string::npos)
-        << run.output;
-}
-
 // Every spelling of one data folder gives the same pool. A relative folder
 // was once put in front of the scanned paths a second time, so the pool came
 // up empty and a reload stripped every link and action from a template.

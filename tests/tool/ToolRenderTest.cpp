@@ -107,17 +107,3 @@ TEST_F(ToolRenderTest, PrintsTheLoadMessagesAndFailsOnFilesItCannotUse) {
     EXPECT_EQ(run.output,
               "loomwright-tool: can't write the picture " + Path("no/such/folder/out.png") + "\n");
 }
-
-TEST_F(ToolRenderTest, RefusesLayersAndScalesTheCanvasDoesNotHave) {
-    const std::string sample = lw::test::SampleDataDir() + "/scg/sample_small.mt";
-    for (const char* options : {"--layers io,walls", "--layers io,", "--layers", "--scale 3",
-                                "--scale 0.001", "--scale half", "--colour red"}) {
-        const ToolRun run = Render(options, sample, Path("out.png"));
-        EXPECT_EQ(run.status, 2) << options;
-        EXPECT_NE(run.output.find("usage:"), std::string::npos) << options;
-    }
-    EXPECT_FALSE(fs::exists(Path("out.png")));
-    EXPECT_EQ(RunTool("render " + Quoted(sample)).status, 2);
-    EXPECT_NE(RunTool("--help").output.find("render [--data DIR] [--layers LIST] [--scale S]"),
-              std::string::npos);
-}

@@ -81,16 +81,6 @@ TEST_F(ToolReplayTest, RefusesLinesItDoesNotUnderstand) {
     }
 }
 
-TEST_F(ToolReplayTest, ReadsCommentsBlanksAndCrLf) {
-    WriteScript("\t click\t400 450 # PatrolStart\r\n   \r\ndump#not a comment here\r\n");
-    EXPECT_EQ(Replay(lw::test::SampleDataDir(), sampleInput, "script.txt").status, 2);
-    WriteScript("\t click\t400 450 # PatrolStart\r\n   \r\ndump\r\n");
-    const ToolRun run = Replay(lw::test::SampleDataDir(), sampleInput, "script.txt");
-    EXPECT_EQ(run.output, "state=0 selection=[PatrolStart] changed=0 undo=0 redo=0 "
-                          "caption=\"Loomwright - out.mt\" view=0,0 scale=1\n");
-    EXPECT_EQ(run.status, 0);
-}
-
 TEST_F(ToolReplayTest, FailsWithoutItsFiles) {
     const std::string data = lw::test::SampleDataDir();
     WriteScript("dump\n");

@@ -110,15 +110,6 @@ TEST_F(ToolTemplateCommandsTest, UnreadableOrUnwritableFilesExitWithTwo) {
     EXPECT_EQ(run.status, 2);
 }
 
-TEST_F(ToolTemplateCommandsTest, MissingOperandsAreUsageErrors) {
-    EXPECT_EQ(RunTool("check").status, 2);
-    EXPECT_EQ(RunTool("normalize " + Quoted(Path("a.mt"))).status, 2);
-    EXPECT_EQ(RunTool("normalize a b c").status, 2);
-    const ToolRun help = RunTool("--help");
-    EXPECT_NE(help.output.find("normalize [--data DIR] IN OUT"), std::string::npos);
-    EXPECT_NE(help.output.find("Can't save template file!"), std::string::npos);
-}
-
 // Each folder below cases/check holds input.mt, with block files laid over
 // the sample data in an optional data/ folder, and the expected.txt that
 // `check --format gcc` prints of it, the data folder written DATA. The same

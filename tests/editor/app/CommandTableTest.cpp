@@ -59,12 +59,3 @@ TEST(CommandTableTest, CtrlVPastesAtThePointerWhileShiftInsertIsTheMenusPaste) {
     EXPECT_EQ(command("Delete"), std::nullopt);
     EXPECT_EQ(command("Escape"), std::nullopt);
 }
-
-TEST(CommandTableTest, PromptsSplitIntoStatusTextAndToolTip) {
-    EXPECT_EQ(StatusText(CommandId::FileSave), "Save current Template");
-    EXPECT_EQ(ToolTipText(CommandId::FileSave), "Save");
-    EXPECT_EQ(StatusText(CommandId::AddTargetLink01), "Add Target link\\Add Target Link");
-    EXPECT_EQ(ToolTipText(CommandId::AddTargetLink01), "");
-    EXPECT_EQ(StatusText(CommandId::PasteAtPointer), "");
-    EXPECT_EQ(StatusText(CommandId::OpenLastOnStart), "");
-}

@@ -121,33 +121,6 @@ TEST_F(CreationCommandsTest, TheReleasePlacesThePhaseWithAnActionForEachBlockPro
     EXPECT_EQ(At(weaver.FindObject(3)), (Point{366, -154}));
 }
 
-TEST_F(CreationCommandsTest, ADoubleClickOnTheEmptyCanvasMakesAPhaseWithoutAPlacingStep) {
-    Answer(false);
-    input.LeftDoubleClick(250, 120);
-    EXPECT_TRUE(weaver.objects.empty());
-    EXPECT_EQ(Commands(), 0u);
-
-    Answer(true, GiveBlock);
-    input.LeftDoubleClick(250, 120);
-    ASSERT_EQ(weaver.objects.size(), 1u);
-    const Phase* phase = As<Phase>(weaver.objects[0].get());
-    EXPECT_EQ(phase->name, "PHASE_2");
-    EXPECT_EQ(At(phase), (Point{250, 120}));
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
-    EXPECT_TRUE(HistoryEndsWith<UR_AddNewPhaseCmd>(1));
-
-    // On an object the double click edits it instead; outside the idle
-    // canvas it does nothing.
-    input.LeftDoubleClick(260, 130);
-    EXPECT_EQ(weaver.objects.size(), 1u);
-    EXPECT_EQ(dialogs.Log().size(), 3u);
-    EXPECT_EQ(dialogs.Log().back().dialog, "CPhasePropertiesDlg");
-    weaver.WaitToPlaceTemplate(Weaver::kClipboardPath);
-    input.LeftDoubleClick(600, 600);
-    EXPECT_EQ(dialogs.Log().size(), 3u);
-    EXPECT_EQ(Commands(), 1u);
-}
-
 TEST_F(CreationCommandsTest, AddCaseOffersTheSelectedPhasesWithoutACaseAndIsPlacedByARelease) {
     Phase* free1 = PhaseAt("P1", 0, 0);
     Phase* inCase = PhaseAt("P2", 300, 0);
@@ -336,85 +309,6 @@ TEST_F(CreationCommandsTest, AddLinkRunsFromTheFirstSelectedPhaseToTheSecond) {
     EXPECT_EQ(dialogs.Log().size(), 2u);
     EXPECT_EQ(weaver.links.size(), 1u);
     EXPECT_EQ(Commands(), 1u);
-}
-
-TEST_F(CreationCommandsTest, DeleteLinksOfPhaseRemovesTheChosenLinksAsOneCommand) {
-    Phase* a = PhaseAt("A", 0, 0);
-    Phase* b = PhaseAt("B", 600, 0);
-    Phase* c = PhaseAt("C", 1200, 0);
-    const Link ab{false, a->id, "out", b->id, "in"};
-    const Link ac{false, a->id, "out", c->id, "in"};
-    const Link bc{false, b->id, "out", c->id, "in"};
-    weaver.links = {ab, ac, bc};
-    weaver.RefreshGateMarks();
-    Select(a);
-
-    dialogs.QueueOutcome(true); // nothing chosen
-    weaver.DeleteLinksOfPhase();
-    EXPECT_EQ(Commands(), 0u);
-    dialogs.QueueOutcome(true, [&](DialogCall& call) { *call.chosenLinks = {ab, ac}; });
-    weaver.DeleteLinksOfPhase();
-    EXPECT_EQ(weaver.links, std::vector<Link>{bc});
-    EXPECT_TRUE(a->outputs[0].openMark);
-    EXPECT_TRUE(HistoryEndsWith<UR_DeleteLinksCmd>(1));
-    weaver.Undo();
-    EXPECT_EQ(weaver.links.size(), 3u);
-}
-
-TEST_F(CreationCommandsTest, AShiftPressLinksEqualGatesOneCommandEachAndAgainWhenRepeated) {
-    Phase* source = PhaseAt("S", 0, 0);
-    source->outputs = {GateSlot{"OBJECT_plane"}, GateSlot{"spotted"}, GateSlot{"done"}};
-    Phase* target = PhaseAt("D", 600, 0);
-    target->inputs = {GateSlot{"spotted"}, GateSlot{"OBJECT_plane"}, GateSlot{"other"}};
-    // Only the first phase under the pointer is linked to.
-    PhaseAt("Below", 650, 0)->inputs = target->inputs;
-    Select(source);
-    const auto shiftClick = [&] {
-        input.LeftDown(700, 50, kLeftButton | kShiftKey);
-        input.LeftUp(700, 50, kShiftKey);
-    };
-    shiftClick();
-    const std::vector<Link> once{{true, source->id, "OBJECT_plane", target->id, "OBJECT_plane"},
-                                 {false, source->id, "spotted", target->id, "spotted"}};
-    EXPECT_EQ(weaver.links, once);
-    EXPECT_EQ(Selected(), std::vector<EditorObject*>{source});
-    EXPECT_FALSE(target->inputs[0].openMark);
-    EXPECT_EQ(Commands(), 2u);
-
-    shiftClick();
-    EXPECT_EQ(weaver.links.size(), 4u);
-    EXPECT_TRUE(HistoryEndsWith<UR_AddNewLinkCmd>(4));
-    weaver.Undo();
-    EXPECT_EQ(weaver.links.size(), 3u);
-}
-
-TEST_F(CreationCommandsTest, TheLauncherOpensTheEditorOfTheKindOrOfTheActionName) {
-    Phase* phase = PhaseAt("P", 0, 0);
-    Select(phase);
-    Unlinker* unlinker = weaver.NewUnlinker();
-    unlinker->phaseId = phase->id;
-    std::vector<EditorObject*> edited{
-        phase,    CaseAt("K", 0, 0),           weaver.NewSwitch(),
-        unlinker, CheckOf(*phase, CheckRange), CheckOf(*phase, CheckFree)};
-    for (const char* name : {"Skin", "Country", "Model", "Speed"})
-        edited.push_back(ActionOf(*phase, "Pilot", name));
-    for (std::size_t i = 0; i < edited.size(); ++i)
-        Answer(false);
-    for (EditorObject* object : edited)
-        weaver.EditObjectProperties(object);
-
-    std::vector<std::string> dialogNames;
-    for (const Shown& seen : shown)
-        dialogNames.push_back(seen.dialog);
-    EXPECT_EQ(dialogNames, (std::vector<std::string>{
-                               "CPhasePropertiesDlg", "CasePropertiesDlg", "SwitchPropertiesDlg",
-                               "UnlinkPropertiesDlg", "CheckRangePropertiesDlg",
-                               "ActionSkinPropertiesDlg", "ActionCountryPropertiesDlg",
-                               "ActionModelPropertiesDlg", "ActionGeneralPropertiesDlg"}));
-    // An existing case or unlinker is offered no phase of the selection.
-    EXPECT_TRUE(shown[1].firstMembers.empty());
-    EXPECT_EQ(shown[3].preselectedPhaseId, 0);
-    EXPECT_EQ(Commands(), 0u);
 }
 
 TEST_F(CreationCommandsTest, OnlyEditsThatPassTheLaunchersChecksBecomeCommands) {

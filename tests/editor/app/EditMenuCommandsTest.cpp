@@ -37,39 +37,6 @@ TEST_F(EditMenuCommandsTest, CutDeletesTheSelectionEvenWhenTheClipboardCannotBeW
     EXPECT_EQ(weaver.objects.size(), objects);
 }
 
-TEST_F(EditMenuCommandsTest, CommandsThatStartSomethingWaitForTheIdleCanvas) {
-    e.Select("ReturnHome");
-    weaver.PointerDown(2050, 750); // a drag of ReturnHome begins
-    ASSERT_EQ(weaver.interactionState(), InteractionState::StateDrag);
-    edit.Copy();
-    edit.Cut();
-    edit.Paste();
-    EXPECT_EQ(e.DataFileText(Weaver::kClipboardPath), "<missing>");
-    EXPECT_EQ(weaver.selection.members.size(), 1u);
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StateDrag);
-}
-
-TEST_F(EditMenuCommandsTest, PasteWaitsForAClickWhileCtrlVPlacesAtThePointer) {
-    e.Select("ReturnHome");
-    edit.Copy();
-    edit.Paste();
-    EXPECT_TRUE(weaver.selection.members.empty());
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StatePlaceTemplate);
-    EXPECT_EQ(weaver.currentCursor, CanvasCursor::Place);
-    EXPECT_EQ(weaver.pendingImportPath, Weaver::kClipboardPath);
-
-    weaver.EscapeKey();
-    static_cast<ViewTransform&>(e.view) = ViewTransform{10, 20, 2.0f};
-    weaver.pointerX = 100;
-    weaver.pointerY = 100;
-    const std::size_t before = weaver.objects.size();
-    edit.PasteAtPointer();
-    ASSERT_EQ(weaver.objects.size(), before + 1);
-    EXPECT_EQ(weaver.objects.back()->posX, 40);
-    EXPECT_EQ(weaver.objects.back()->posY, 30);
-    EXPECT_EQ(weaver.selection.members.size(), 1u);
-}
-
 TEST_F(EditMenuCommandsTest, SaveSelectionAndImportGoThroughTheFileDialogs) {
     e.Select("ReturnHome");
     dialogs.answers = {kData + "/scg/picked.mt", kData + "/scg/picked.mt"};

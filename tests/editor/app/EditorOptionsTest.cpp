@@ -6,16 +6,6 @@
 
 using namespace lw;
 
-TEST(EditorOptionsTest, DefaultsHoldOnAFirstRun) {
-    MemoryOptionsStore empty;
-    EditorOptions options;
-    options.Load(empty);
-    EXPECT_TRUE(options.OpenLastUsedTemplateOnStart);
-    EXPECT_EQ(options.LastUsedTemplateName, "");
-    EXPECT_FALSE(options.DrawInputOutputs || options.DrawSwitchAndCases || options.DrawChecks ||
-                 options.DrawActions || options.DrawGeometry);
-}
-
 TEST(EditorOptionsTest, SavesAllSevenKeysInTheirSectionAsZeroOrOne) {
     MemoryOptionsStore store;
     EditorOptions options;

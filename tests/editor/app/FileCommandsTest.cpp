@@ -71,19 +71,6 @@ TEST_F(FileCommandsTest, AMissingLastTemplateLeavesAnEmptyDocument) {
     EXPECT_EQ(host.title, "Loomwright - untitled");
 }
 
-TEST_F(FileCommandsTest, LoadThenSaveWritesTheFileAsItWas) {
-    StartUp();
-    LoadChanged();
-    EXPECT_EQ(weaver.options.LastUsedTemplateName, kSmall);
-    EXPECT_EQ(weaver.nextId, static_cast<std::int32_t>(weaver.objects.size()) + 1);
-    disk.AddFile(kData + "/scg/sample_small.mt", "old");
-    commands.Save();
-    EXPECT_EQ(Bytes(kData + "/scg/sample_small.mt"), SmallFileBytes());
-    EXPECT_FALSE(weaver.undoManager.changed);
-    EXPECT_EQ(host.title, "Loomwright - scg\\sample_small.mt");
-    EXPECT_TRUE(dialogs.requests.empty());
-}
-
 TEST_F(FileCommandsTest, AFailedSaveKeepsTheOldFileAndTheChanges) {
     StartUp();
     LoadChanged();
@@ -167,25 +154,6 @@ TEST_F(FileCommandsTest, NewAsksAboutChangesAndHonoursEachAnswer) {
     // Without changes nothing is asked.
     commands.New();
     EXPECT_EQ(prompts.Log().size(), 4u);
-}
-
-TEST_F(FileCommandsTest, NewWithYesAndACancelledSaveDialogKeepsTheDocument) {
-    StartUp();
-    weaver.NewPhase();
-    weaver.undoManager.Push(nullptr);
-    prompts.QueueAnswer(Answer::Yes);
-    commands.New();
-    EXPECT_EQ(weaver.objects.size(), 1u);
-    EXPECT_EQ(dialogs.requests.size(), 1u);
-}
-
-TEST_F(FileCommandsTest, OpenOffersTheScgFolderAndLoadsTheChoice) {
-    StartUp();
-    dialogs.answers = {kData + "/scg/sample_small.mt"};
-    commands.Open();
-    EXPECT_EQ(dialogs.startFolders[0], kData + "/scg");
-    EXPECT_EQ(weaver.fileName, kSmall);
-    EXPECT_FALSE(weaver.objects.empty());
 }
 
 TEST_F(FileCommandsTest, TheCloseQuestionHasItsOwnWording) {

@@ -41,63 +41,6 @@ protected:
 
 } // namespace
 
-TEST_F(GestureTest, OnePressSelectsEveryObjectUnderItAndOneDragMovesThemAsOneCommand) {
-    Phase* a = PhaseAt("A", 0, 0);
-    Phase* b = PhaseAt("B", 100, 50);
-    input.LeftDown(150, 100, kLeftButton);
-    EXPECT_EQ(Selected(), (Members{a, b}));
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StateDrag);
-    EXPECT_EQ(weaver.currentCursor, CanvasCursor::Move);
-
-    // The objects follow every step; only the release records the move.
-    input.Move(170, 90, kLeftButton);
-    EXPECT_EQ(At(a), (Point{20, -10}));
-    EXPECT_EQ(Commands(), 0u);
-    input.Move(180, 110, kLeftButton);
-    input.LeftUp(180, 110, 0);
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
-    EXPECT_EQ(weaver.currentCursor, CanvasCursor::Arrow);
-    EXPECT_FALSE(e.host.captured);
-    EXPECT_EQ(At(b), (Point{130, 60}));
-    EXPECT_TRUE(HistoryEndsWith<UR_MoveObjectsCmd>(1));
-
-    weaver.Undo();
-    EXPECT_EQ(At(a), (Point{0, 0}));
-    EXPECT_EQ(At(b), (Point{100, 50}));
-}
-
-// A dragged phase takes its checks, actions and unlinker along in the same
-// one move, instead of leaving them behind to be dragged one by one.
-TEST_F(GestureTest, AttachedObjectsFollowTheirPhaseInOneMove) {
-    Phase* a = PhaseAt("A", 0, 0);
-    Check* check = CheckOf(*a, CheckFree, 66, 172);
-    Action* action = ActionOf(*a, "", "Rule");
-    action->posX = 400;
-    action->posY = -150;
-    Unlinker* unlinker = weaver.NewUnlinker();
-    unlinker->phaseId = a->id;
-    Action* othersAction = ActionOf(*PhaseAt("Other", 1000, 1000), "", "Rule");
-
-    // The check is selected too, and still moves once.
-    Select(a);
-    Select(check);
-    input.LeftDown(50, 50, kLeftButton);
-    input.Move(80, 70, kLeftButton);
-    input.LeftUp(80, 70, 0);
-    EXPECT_EQ(At(a), (Point{30, 20}));
-    EXPECT_EQ(At(check), (Point{96, 192}));
-    EXPECT_EQ(At(action), (Point{430, -130}));
-    EXPECT_EQ(At(unlinker), (Point{30, 20}));
-    EXPECT_EQ(At(othersAction), (Point{0, 0}));
-    EXPECT_EQ(Commands(), 1u);
-
-    weaver.Undo();
-    EXPECT_EQ(At(check), (Point{66, 172}));
-    EXPECT_EQ(At(unlinker), (Point{0, 0}));
-    weaver.Redo();
-    EXPECT_EQ(At(action), (Point{430, -130}));
-}
-
 TEST_F(GestureTest, AClickOrADragBackToItsStartSelectsButRecordsNoMove) {
     Phase* a = PhaseAt("A", 0, 0);
     ClickAt(50, 50);
@@ -122,47 +65,6 @@ TEST_F(GestureTest, APressOnASelectedObjectDragsTheWholeSelectionHiddenMembersTo
     EXPECT_EQ(At(c), (Point{510, 10}));
     EXPECT_EQ(At(check), (Point{76, 182}));
     EXPECT_EQ(At(untouched), (Point{1000, 0}));
-}
-
-TEST_F(GestureTest, TheBandTakesObjectsByTheirAnchorPoint) {
-    weaver.options.DrawSwitchAndCases = true;
-    Phase* p = PhaseAt("P", 100, 100);
-    Case* k = CaseAt("K", 600, 100);
-
-    // The band covers most of the phase, but not its top-left corner.
-    Band(110, 90, 400, 400);
-    EXPECT_TRUE(Selected().empty());
-    EXPECT_FALSE(weaver.bandActive);
-    Band(50, 50, 100, 100); // the right and bottom edges lie outside
-    EXPECT_TRUE(Selected().empty());
-    Band(400, 400, 90, 90);
-    EXPECT_EQ(Selected(), Members{p});
-
-    // A case is round: a press in the corner of its box starts a band, which
-    // drops the selection. This band covers the case's right half, not its centre.
-    Band(635, 135, 700, 200);
-    EXPECT_TRUE(Selected().empty());
-    Band(605, 50, 700, 200);
-    EXPECT_TRUE(Selected().empty());
-    Band(595, 50, 700, 200);
-    EXPECT_EQ(Selected(), Members{k});
-}
-
-TEST_F(GestureTest, TheBandPassesOverKindsThatAreHidden) {
-    Phase* p = PhaseAt("P", 0, 0);
-    Case* k = CaseAt("K", 600, 100);
-    Check* check = CheckOf(*p, CheckSquad, 600, 400);
-    Action* action = ActionOf(*p, "Pilot", "Skin");
-    action->posX = 700;
-    action->posY = 400;
-    Band(550, 40, 800, 500);
-    EXPECT_TRUE(Selected().empty());
-
-    weaver.options.DrawSwitchAndCases = true;
-    weaver.options.DrawChecks = true;
-    weaver.options.DrawActions = true;
-    Band(550, 40, 800, 500);
-    EXPECT_EQ(Selected(), (Members{k, check, action}));
 }
 
 TEST_F(GestureTest, CtrlClickTogglesOnTheReleaseAndAShiftClickNeitherSelectsNorPicks) {
@@ -358,42 +260,6 @@ TEST_F(GestureTest, EscapeEndsPlacingsLinkGesturesAndDragsButNotBands) {
     EXPECT_TRUE(weaver.bandActive);
 }
 
-TEST_F(GestureTest, TheWheelZoomsAboutTheScreenPointTakenAsAWindowPoint) {
-    // One step a message, however large the delta. Had the point been made a
-    // window point first, (200, 200), the view would be at (-19, -19).
-    input.Wheel(300, 250, 360, canvasOnScreen);
-    EXPECT_EQ(e.view.scale, 1.1f);
-    EXPECT_EQ(e.view.viewX, -28);
-    EXPECT_EQ(e.view.viewY, -23);
-    EXPECT_EQ(e.view.font, (CanvasFont{"Arial", 15, 400}));
-    // Back at scale 1 the font is the zoomed one of 14 pixels, not the first 12.
-    input.Wheel(300, 250, -120, canvasOnScreen);
-    EXPECT_EQ(e.view.scale, 1.0f);
-    EXPECT_EQ(e.view.viewX, 0);
-    EXPECT_EQ(e.view.font.height, 14);
-
-    // Points outside the canvas do nothing; its edges count.
-    const int repaints = e.host.repaints;
-    input.Wheel(901, 300, 120, canvasOnScreen);
-    input.Wheel(500, 49, 120, canvasOnScreen);
-    EXPECT_EQ(e.view.scale, 1.0f);
-    EXPECT_EQ(e.host.repaints, repaints);
-    input.Wheel(900, 650, 120, canvasOnScreen);
-    EXPECT_EQ(e.view.scale, 1.1f);
-    input.Wheel(100, 50, -120, canvasOnScreen);
-    EXPECT_EQ(e.view.scale, 1.0f);
-
-    // The scale is clamped, and the font keeps one pixel at least.
-    for (int i = 0; i < 20; ++i)
-        input.Wheel(500, 300, 120, canvasOnScreen);
-    EXPECT_EQ(e.view.scale, 2.0f);
-    EXPECT_EQ(e.view.font.height, 28);
-    for (int i = 0; i < 80; ++i)
-        input.Wheel(500, 300, -120, canvasOnScreen);
-    EXPECT_EQ(e.view.scale, 0.01f);
-    EXPECT_EQ(e.view.font.height, 1);
-}
-
 TEST_F(GestureTest, AWheelStepDuringABandMovesItsCornerToTheScreenPoint) {
     input.LeftDown(10, 10, kLeftButton);
     input.Move(50, 50, kLeftButton);
@@ -413,30 +279,6 @@ TEST_F(GestureTest, AWheelStepDuringABandMovesItsCornerToTheScreenPoint) {
     EXPECT_EQ(e.view.font, before.font);
     EXPECT_EQ(weaver.bandRect, (ScreenRect{-19, -9, 300, 200}));
     EXPECT_EQ(e.host.repaints, repaints);
-}
-
-TEST_F(GestureTest, TheRightButtonPansInAnyStateAndOnlyAnExactRightClickOpensTheMenu) {
-    e.view.scale = 2.0f;
-    input.Move(100, 100, 0);
-    input.RightDown(100, 100, kRightButton);
-    input.Move(105, 103, kRightButton);
-    EXPECT_EQ(e.view.viewX, 2);
-    EXPECT_EQ(e.view.viewY, 1);
-    input.Move(96, 100, kRightButton); // -9 / 2 is truncated to -4
-    EXPECT_EQ(e.view.viewX, -2);
-    EXPECT_EQ(e.view.viewY, 0);
-    EXPECT_FALSE(input.RightUp(96, 100, 0));
-
-    input.RightDown(96, 100, kRightButton);
-    EXPECT_TRUE(input.RightUp(96, 100, 0));
-    input.RightDown(30, 30, kRightButton | kCtrlKey);
-    EXPECT_FALSE(input.RightUp(30, 30, kCtrlKey));
-    input.RightDown(30, 30, kRightButton | kShiftKey);
-    EXPECT_FALSE(input.RightUp(30, 30, 0));
-
-    weaver.WaitToPlaceTemplate(Weaver::kClipboardPath);
-    input.Move(106, 100, kRightButton);
-    EXPECT_EQ(e.view.viewX, 3);
 }
 
 // S, a fractal phase, already leads its secondary link to X; Y overlaps X and

@@ -104,19 +104,6 @@ TEST_F(RecoveryTest, NoAtTheNextStartRemovesTheCopyAndOpensTheLastTemplate) {
     EXPECT_EQ(e.host.title, "Loomwright - scg\\sample_small.mt");
 }
 
-TEST_F(RecoveryTest, AnUntitledDocumentIsRestoredUntitled) {
-    e.StartUp();
-    e.weaver.PlaceTemplate(kSmall, 0, 0, 0, 0, 1.0f);
-    ASSERT_TRUE(CopyExists());
-    EXPECT_EQ(recovery.Find()->templatePath, "");
-
-    e.prompts.QueueAnswer(Answer::Yes);
-    std::unique_ptr<Weaver> next = Restart();
-    EXPECT_NE(e.prompts.Log()[0].text.find("changes to untitled?"), std::string::npos);
-    EXPECT_EQ(next->fileName, "");
-    EXPECT_FALSE(next->objects.empty());
-}
-
 TEST_F(RecoveryTest, ACopyThatCannotBeWrittenIsSaidOnceAndTheDocumentStays) {
     e.Open(kSmall);
     e.disk.FailNextReplace();

@@ -72,13 +72,6 @@ TEST_F(UndoManagerTest, ANullPushMarksTheDocumentAndKeepsTheRedoStack) {
     EXPECT_EQ(host.titles, std::vector<std::string>{"Loomwright - scg\\a.mt*"});
 }
 
-TEST_F(UndoManagerTest, ClearingDestroysNewestFirst) {
-    for (int i = 1; i <= 3; ++i)
-        history.Push(Command(i));
-    history.ClearUndoStack();
-    EXPECT_EQ(destroyed, (std::vector<int>{3, 2, 1}));
-}
-
 TEST_F(UndoManagerTest, TitleShowsTheFileAndTheChangedMark) {
     EXPECT_EQ(weaver.Title(), "Loomwright - untitled");
     weaver.fileName = "scg\\x.mt";

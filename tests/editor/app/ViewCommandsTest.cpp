@@ -55,27 +55,6 @@ TEST_F(ViewCommandsTest, FitAllShowsEveryPhaseAndFollowsTheCanvasUntilTheViewIsM
     EXPECT_EQ(e.view.scale, zoomed.scale);
 }
 
-// The zoom steps keep what is in the middle of the canvas in the middle.
-TEST_F(ViewCommandsTest, ZoomStepsKeepTheMiddleAndFitSelectionShowsTheSelection) {
-    const std::int32_t middleX = e.view.WorldX(512);
-    const std::int32_t middleY = e.view.WorldY(384);
-    commands.Run(CommandId::ViewZoomIn);
-    EXPECT_FLOAT_EQ(e.view.scale, 1.1f);
-    EXPECT_LE(std::abs(e.view.WorldX(512) - middleX), 1);
-    EXPECT_LE(std::abs(e.view.WorldY(384) - middleY), 1);
-    for (int i = 0; i < 50; ++i)
-        commands.Run(CommandId::ViewZoomOut);
-    EXPECT_FLOAT_EQ(e.view.scale, 0.01f);
-
-    EXPECT_FALSE(commands.IsEnabled(CommandId::ViewZoomSelection));
-    e.Select("PlayerStart");
-    commands.Run(CommandId::ViewZoomSelection);
-    const Phase& start = *e.weaver.FindPhaseByName("PlayerStart");
-    const ScreenRect r = start.GetScreenRect(e.view.viewX, e.view.viewY, e.view.scale);
-    EXPECT_EQ((r.left + r.right) / 2, 512);
-    EXPECT_EQ(e.view.scale, 2.0f);
-}
-
 TEST_F(ViewCommandsTest, FindGoesRoundTheMatchesOfNamesAndBlocksWithoutRegardToCase) {
     Finder& finder = commands.Find();
     finder.Search("CASE");

@@ -52,14 +52,6 @@ TEST_F(WeaverStartUpTest, TheTvdPrefixAppliesOnlyToTheLinesBelowIt) {
     EXPECT_EQ(swapped.tvdFolder, "scg\\1\\");
 }
 
-TEST_F(WeaverStartUpTest, IniLinesWithoutValueOrUnknownKeyAreIgnored) {
-    WriteIni("# a comment\ntvd\nTVD x\\\nblocks one\nblocks two\nactions \"quoted.cfg\"\n");
-    StartUp();
-    EXPECT_EQ(weaver.tvdFolder, "scg\\0\\");
-    EXPECT_EQ(weaver.blockFolders, (Strings{"scg\\0\\one", "scg\\0\\two"}));
-    EXPECT_EQ(weaver.actionsPath, "scg\\0\\quoted.cfg");
-}
-
 TEST_F(WeaverStartUpTest, ReadsTheCataloguesAndBlockPoolTheIniNames) {
     WriteIni("tvd scg\\0\\\nmodels models.cfg\nactions actions.cfg\nblocks blocks\n");
     disk.AddFile(std::string(kData) + "/scg/0/Models.cfg", "Type\n{\nName fighter\n}\n");
@@ -86,15 +78,6 @@ TEST_F(WeaverStartUpTest, DataFolderIsKeptLowerCaseWhileFilesUseTheRealSpelling)
     StartUp();
     EXPECT_EQ(weaver.dataFolder, "/opt/sim/data");
     EXPECT_EQ(weaver.files.BaseFolder(), kData);
-}
-
-TEST_F(WeaverStartUpTest, StartUpLoadsTheOptionsAndLeavesTheDocumentUnchanged) {
-    disk.AddDirectory(kData);
-    store.SetInt("LoomwrightOptions", "DrawGeometry", 1);
-    weaver.undoManager.changed = true;
-    StartUp();
-    EXPECT_TRUE(weaver.options.DrawGeometry);
-    EXPECT_FALSE(weaver.undoManager.changed);
 }
 
 TEST(DataFolderTest, TwoLevelsAboveTheExecutableThenData) {

@@ -184,23 +184,6 @@ TEST_F(ScenePaintTest, GeometryShowsTypeParametersAndLinksWithAThickLastTenth) {
         << Listing(calls);
 }
 
-TEST(GeometryDetailTextTest, ShowsTheSpreadParametersOfAzimuthFractalAndLine) {
-    Phase phase(1);
-    phase.generationType = GenerationAzimuth;
-    phase.geoParams = {"a", "b", "c", "d"};
-    EXPECT_EQ(GeometryDetailText(phase), "a; b; c");
-    // With five the second run follows the first without a separator.
-    phase.geoParams.push_back("e");
-    EXPECT_EQ(GeometryDetailText(phase), "a; b; cc; d; e");
-    phase.generationType = GenerationFractal;
-    EXPECT_EQ(GeometryDetailText(phase), "c; d; e");
-    phase.geoParams.pop_back();
-    EXPECT_EQ(GeometryDetailText(phase), "");
-    phase.generationType = GenerationAt;
-    phase.geoParams = {"a", "b", "c", "d", "e"};
-    EXPECT_EQ(GeometryDetailText(phase), "");
-}
-
 TEST_F(ScenePaintTest, CasesSwitchesChecksActionsAndUnlinkersLeadToTheirPhase) {
     const Phase* phase = AddPhase(0, 0);
     Case* item = Placed(weaver.NewCase(), -300, 0);
@@ -370,23 +353,6 @@ TEST_F(ScenePaintTest, CanvasTakesItsFontAndFrameFirstAndZoomedOutTheSceneIsAMap
     weaver.options.DrawInputOutputs = true;
     EXPECT_EQ(CountStarting(paintAt(0.3f), "text"), 1u) << "no gate label";
     EXPECT_EQ(CountStarting(paintAt(0.5f), "text"), 3u) << "the name and two labels";
-}
-
-// A file may place anything at the very edge of the coordinate range; the
-// sums the scene makes of such positions stay within it (the sanitized run
-// would stop on an overflow).
-TEST_F(ScenePaintTest, ObjectsAtTheEdgeOfTheRangePaintWithinIt) {
-    Phase* far = AddPhase(INT32_MAX, INT32_MIN);
-    far->inputs = {GateSlot{"in", true}};
-    far->outputs = {GateSlot{"out", true}};
-    Phase* near = AddPhase(INT32_MIN, INT32_MAX, GenerationAt);
-    near->primaryLinkId = far->id;
-    Check* check = Placed(weaver.NewCheck(), INT32_MAX, INT32_MAX);
-    check->phaseId = far->id;
-    for (float scale : {1.0f, 2.0f}) {
-        const Calls calls = Paint(scale, INT32_MAX, INT32_MIN);
-        EXPECT_FALSE(calls.empty());
-    }
 }
 
 // So far out that boxes are a few pixels wide, the scene is an overview: the

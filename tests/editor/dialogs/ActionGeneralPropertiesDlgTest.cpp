@@ -41,25 +41,6 @@ protected:
     Action& action = *e.weaver.NewAction();
 };
 
-TEST_F(ActionGeneralPropertiesDlgTest, HandMadeAndPropertyActionsAreOfferedDifferentRules) {
-    action.rules = {{"set_counter", {"Fuel", "3"}, "if(a>1); "}};
-    ActionGeneralPropertiesDlg handMade(e.weaver.ruleCatalogue, action);
-    EXPECT_EQ(
-        handMade.ruleCombo.Texts(),
-        (Texts{"add_flag", "dawn_pack", "import_harbour_pack", "import_night_pack", "note_text",
-               "reserved_slot", "set_counter", "set_weather", "spawn_delay", "storm_pack"}));
-    EXPECT_EQ(handMade.ruleCombo.Current(), -1);
-    ASSERT_EQ(handMade.ruleList.size(), 1u);
-    EXPECT_EQ(handMade.ruleList[0].texts,
-              (std::array<std::string, 2>{"set_counter(Fuel,3);", "if(a>1); "}));
-
-    action.objectName = "fuel_load";
-    ActionGeneralPropertiesDlg fromProperty(e.weaver.ruleCatalogue, action);
-    EXPECT_EQ(fromProperty.ruleCombo.Texts(),
-              (Texts{"formation_pack", "import_escort_pack", "import_raid_pack", "set_altitude",
-                     "set_fuel", "set_payload", "set_speed", "skill_pack"}));
-}
-
 TEST_F(ActionGeneralPropertiesDlgTest, PreviewFillsEveryPlaceholderAndIsStoredAsShown) {
     ActionGeneralPropertiesDlg sample(e.weaver.ruleCatalogue, action);
     EXPECT_EQ(sample.BuildParameterText(), "");
@@ -156,27 +137,6 @@ TEST_F(ActionGeneralPropertiesDlgTest, RefusalsAreSilentButForAMissingChoice) {
     ASSERT_EQ(e.prompts.Log().size(), 1u);
     EXPECT_EQ(e.prompts.Log()[0].text, "Select one of the rules!");
     EXPECT_EQ(e.prompts.Log()[0].icon, MessageIcon::Stop);
-}
-
-TEST_F(ActionGeneralPropertiesDlgTest, DeleteTakesTheSelectedRowsAndOkWritesWhatIsLeft) {
-    const Rules four = {{"a", {}, ""}, {"b", {}, ""}, {"c", {}, ""}, {"d", {"x"}, ""}};
-    action.rules = four;
-    ActionGeneralPropertiesDlg dialog(e.weaver.ruleCatalogue, action);
-    dialog.ruleList[0].selected = true;
-    dialog.ruleList[2].selected = true;
-    dialog.OnDelete();
-    EXPECT_EQ(dialog.workingRules, (Rules{four[1], four[3]}));
-    EXPECT_EQ(dialog.ruleList[1].texts[0], "d(x);");
-    EXPECT_EQ(action.rules, four);
-
-    for (auto& row : dialog.ruleList)
-        row.selected = true;
-    dialog.OnDelete();
-    EXPECT_TRUE(dialog.Ok(e.prompts));
-    EXPECT_TRUE(action.rules.empty());
-    EXPECT_TRUE(dialog.IsResultValid());
-    action.name.clear();
-    EXPECT_FALSE(dialog.IsResultValid());
 }
 
 } // namespace

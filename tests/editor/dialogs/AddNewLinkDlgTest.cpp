@@ -25,18 +25,6 @@ protected:
     Phase& to = *e.weaver.NewPhase();
 };
 
-TEST_F(AddNewLinkDlgTest, StartOffersTheGatesSortedWithNoneChosen) {
-    AddNewLinkDlg dialog(e.weaver, from, to, false);
-    EXPECT_EQ(dialog.title, "Add new Target Link");
-    EXPECT_EQ(AddNewLinkDlg(e.weaver, from, to, true).title, "Add new Object Link");
-    EXPECT_EQ(dialog.fromName, "Source");
-    EXPECT_EQ(dialog.toName, "Target");
-    EXPECT_EQ(dialog.fromCombo.Texts(), (Texts{"OUT_a", "out_b", "out_c"}));
-    EXPECT_EQ(dialog.toCombo.Texts(), (Texts{"in_y", "in_z"}));
-    EXPECT_EQ(dialog.fromCombo.Current(), -1);
-    EXPECT_EQ(dialog.toCombo.Current(), -1);
-}
-
 TEST_F(AddNewLinkDlgTest, BothConnectionsAreRequired) {
     AddNewLinkDlg dialog(e.weaver, from, to, true);
     EXPECT_FALSE(dialog.Ok(e.prompts));

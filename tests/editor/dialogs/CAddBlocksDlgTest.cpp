@@ -33,13 +33,6 @@ TEST_F(AddBlocksTest, OffersTheCompatibleBlocksInKeyOrderWithTheMainBlockAmongTh
     EXPECT_TRUE(e.prompts.Log().empty());
 }
 
-TEST_F(AddBlocksTest, NoSelectionIsAnEmptyChoice) {
-    CAddBlocksDlg dialog(e.weaver.blockPool, "scg\\0\\blocks\\air\\landing.group");
-    EXPECT_EQ(dialog.blockList.Texts(), Texts{"scg\\0\\blocks\\air\\landing.group"});
-    ASSERT_TRUE(dialog.Ok(e.prompts));
-    EXPECT_TRUE(dialog.chosen.empty());
-}
-
 TEST_F(AddBlocksTest, AnUnknownMainBlockOffersOnlyBlocksWithoutGatesOrObjects) {
     const std::string bare = "scg\\0\\blocks\\naval\\bare.group";
     BlockInfo withObject;

@@ -67,17 +67,6 @@ protected:
     ScriptedSubDialogs sub;
 };
 
-TEST_F(PhaseDialogTest, ANewPhaseStartsAsRandomWithItsDefaultAllocation) {
-    Phase& phase = *e.weaver.NewPhase();
-    CPhasePropertiesDlg dialog(e.weaver, phase);
-    EXPECT_EQ(dialog.generationCombo.Text(), "Random");
-    EXPECT_EQ(dialog.allocationCombo.Text(), "clone_location");
-    EXPECT_EQ(dialog.mainBlockCombo.Current(), -1);
-    EXPECT_TRUE(dialog.radiosEnabled && dialog.mainBlockCombo.enabled);
-    EXPECT_FALSE(dialog.addBlocksEnabled || dialog.moreParametersEnabled);
-    EXPECT_FALSE(dialog.IsResultValid());
-}
-
 TEST_F(PhaseDialogTest, APhaseWithBlocksOrAFolderKeepsThemLocked) {
     CPhasePropertiesDlg waypoint(e.weaver, Named("WaypointNorth"));
     EXPECT_EQ(waypoint.mainBlockCombo.Text(), kPatrol);
@@ -363,29 +352,6 @@ TEST_F(PhaseDialogTest, FolderAndRadioChoicesWriteAtOnceAndCancelKeepsThem) {
     ASSERT_TRUE(dialog.Ok(e.prompts));
     EXPECT_EQ(other.blocks, (Blocks{{"main", "scg\\0\\blocks\\naval\\barge_group.group"}}));
     EXPECT_EQ(other.blocksFolder, "scg\\0\\blocks\\naval");
-}
-
-TEST_F(PhaseDialogTest, AFolderWithoutBlocksOfItsOwnLeavesNoMainBlock) {
-    e.weaver.blockFolders.push_back("scg\\0\\blocks\\");
-    Phase& phase = *e.weaver.NewPhase();
-    CPhasePropertiesDlg dialog(e.weaver, phase);
-    dialog.OnFolderRadio();
-    dialog.folderCombo.SelectByText("scg\\0\\blocks\\");
-    ASSERT_EQ(dialog.folderCombo.Text(), "scg\\0\\blocks\\");
-    dialog.OnFolderChanged();
-    EXPECT_EQ(dialog.mainBlockCombo.Text(), "");
-    EXPECT_FALSE(dialog.Ok(e.prompts));
-    EXPECT_EQ(LastMessage(), "Phase main blocks set must be selected!");
-}
-
-TEST_F(PhaseDialogTest, AColourBeyondTheTableSelectsNothingAndIsKept) {
-    Phase& recon = Named("ReconSweep");
-    EXPECT_EQ(CPhasePropertiesDlg(e.weaver, recon).colorCombo.Text(), "Blue");
-    recon.colorIndex = 9;
-    CPhasePropertiesDlg dialog(e.weaver, recon);
-    EXPECT_EQ(dialog.colorCombo.Current(), -1);
-    ASSERT_TRUE(dialog.Ok(e.prompts));
-    EXPECT_EQ(recon.colorIndex, 9);
 }
 
 } // namespace

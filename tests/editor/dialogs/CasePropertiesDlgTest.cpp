@@ -21,29 +21,6 @@ protected:
     test::SampleEditor e;
 };
 
-TEST_F(CasePropertiesDlgTest, MembersAndCandidatesMoveBetweenListAndCombo) {
-    CasePropertiesDlg dlg(e.weaver, *e.weaver.NewCase(),
-                          {PhaseId("PlayerStart"), PhaseId("BomberRaid")});
-    EXPECT_EQ(dlg.memberList.Texts(), (Texts{"PlayerStart", "BomberRaid"}));
-    EXPECT_EQ(dlg.candidateCombo.Texts(),
-              (Texts{"AAPositions", "BalloonLine", "ConvoyColumn", "FuelDepot", "HomeLanding",
-                     "RiverBarges", "WaypointNorth"}));
-
-    dlg.OnAdd();
-    EXPECT_EQ(dlg.memberList.Count(), 2) << "an empty combo adds nothing";
-    dlg.candidateCombo.SelectByText("FuelDepot");
-    dlg.OnAdd();
-    EXPECT_EQ(dlg.memberList.At(2), "FuelDepot") << "unsorted: the order of adding";
-    EXPECT_EQ(dlg.candidateCombo.Count(), 6);
-    EXPECT_EQ(dlg.candidateCombo.Text(), "");
-
-    dlg.memberList.Select(0);
-    dlg.memberList.Select(2);
-    dlg.OnRemove();
-    EXPECT_EQ(dlg.memberList.Texts(), Texts{"BomberRaid"});
-    EXPECT_EQ(dlg.candidateCombo.Count(), 8);
-}
-
 TEST_F(CasePropertiesDlgTest, OkChecksInOrderAndWritesNothingWhenRefused) {
     CasePropertiesDlg dlg(e.weaver, opening(), {});
     EXPECT_EQ(dlg.name, "CaseOpening");
@@ -93,15 +70,6 @@ TEST_F(CasePropertiesDlgTest, OkRewiresBothSidesAndKeepsTheNameTyped) {
     EXPECT_TRUE(dlg.IsResultValid());
     caseObject.name = "CaseThreat";
     EXPECT_FALSE(dlg.IsResultValid());
-}
-
-TEST_F(CasePropertiesDlgTest, RemovingWithoutOkChangesNothing) {
-    const Ids before = opening().phaseIds;
-    CasePropertiesDlg dlg(e.weaver, opening(), {});
-    dlg.memberList.Select(0);
-    dlg.OnRemove();
-    EXPECT_EQ(opening().phaseIds, before);
-    EXPECT_EQ(e.weaver.FindPhaseByName("EscortLeg")->caseId, opening().id);
 }
 
 } // namespace

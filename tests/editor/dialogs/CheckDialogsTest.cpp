@@ -51,26 +51,6 @@ TEST(CalendarDateTest, FormatsAndReadsTheDayMonthYearForm) {
     }
 }
 
-TEST_F(CheckDialogsTest, SquadRoundTrip) {
-    Check& check = NewCheck({"12", "03.04.1918"});
-    CheckSquadPropertiesDlg dlg(e.weaver, check);
-    EXPECT_FALSE(dlg.usePlayerSquad || dlg.useServerDate);
-    EXPECT_EQ(dlg.squadId.text, "12");
-    EXPECT_EQ(dlg.date, (CalendarDate{3, 4, 1918, Status::Valid}));
-    dlg.squadId.text = "7";
-    dlg.date.day = 9;
-    ASSERT_TRUE(dlg.Ok(e.prompts));
-    EXPECT_EQ(check.params, (Texts{"7", "09.04.1918"}));
-    EXPECT_TRUE(dlg.IsResultValid());
-
-    CheckSquadPropertiesDlg again(e.weaver, check);
-    EXPECT_EQ(again.squadId.text, "7");
-    EXPECT_EQ(again.date, dlg.date);
-    again.usePlayerSquad = again.useServerDate = true;
-    ASSERT_TRUE(again.Ok(e.prompts));
-    EXPECT_EQ(check.params, (Texts{"$playersquad", "$date"}));
-}
-
 TEST_F(CheckDialogsTest, SquadOkChecksInOrderThenWritesBeforeTheRangeCheck) {
     Check& check = NewCheck({"$playersquad", "$date"});
     CheckSquadPropertiesDlg dlg(e.weaver, check);
@@ -115,44 +95,6 @@ TEST_F(CheckDialogsTest, SquadOneIsAcceptedByOkButNotAValidResult) {
     }
 }
 
-TEST_F(CheckDialogsTest, SquadUnparsableDateOpensOnTheDefaultDay) {
-    Check& check = NewCheck({"$playersquad", "20th of July"});
-    CheckSquadPropertiesDlg dlg(e.weaver, check);
-    EXPECT_FALSE(dlg.useServerDate);
-    EXPECT_TRUE(dlg.dateShown);
-    EXPECT_EQ(dlg.date, kDefaultCalendarDate);
-    ASSERT_TRUE(dlg.Ok(e.prompts));
-    EXPECT_EQ(check.params[1], "20.07.1917");
-
-    // The reader given is used both to open and to judge the result.
-    check.params[1] = "20th of July";
-    const DateReader lenient = [](const std::string&, CalendarDate& date) {
-        date = {1, 1, 1918, Status::Valid};
-        return true;
-    };
-    CheckSquadPropertiesDlg read(e.weaver, check, lenient);
-    EXPECT_EQ(read.date, (CalendarDate{1, 1, 1918, Status::Valid}));
-    EXPECT_TRUE(read.IsResultValid());
-}
-
-TEST_F(CheckDialogsTest, LocationTypeStartShowsTheTypesBoxes) {
-    CheckLocationTypePropertiesDlg dlg(e.weaver, NewCheck({"Airfield"}));
-    EXPECT_EQ(dlg.typeCombo.Texts(),
-              (Texts{"Airfield", "AirObjective", "Decoration", "GroundObjective", "Navigation",
-                     "ReferenceLocation", "GroundBase"}));
-    EXPECT_EQ(dlg.typeCombo.Current(), 0);
-    EXPECT_EQ(dlg.boxes[1].caption, "WaterField");
-    EXPECT_TRUE(dlg.boxes[1].shown);
-    EXPECT_FALSE(dlg.boxes[2].shown);
-    EXPECT_EQ(dlg.boxes[2].caption, "Check3");
-    EXPECT_EQ(dlg.boxes[22].caption, "Check23");
-
-    CheckLocationTypePropertiesDlg none(e.weaver, NewCheck({}));
-    EXPECT_EQ(none.typeCombo.Current(), -1);
-    for (const auto& box : none.boxes)
-        EXPECT_FALSE(box.shown || box.ticked);
-}
-
 TEST_F(CheckDialogsTest, LocationTypeOkChecksInOrder) {
     Check& check = NewCheck({});
     CheckLocationTypePropertiesDlg dlg(e.weaver, check);
@@ -168,20 +110,6 @@ TEST_F(CheckDialogsTest, LocationTypeOkChecksInOrder) {
     ASSERT_TRUE(dlg.Ok(e.prompts));
     EXPECT_EQ(check.params, Texts{"Airfield"});
     EXPECT_TRUE(dlg.IsResultValid());
-}
-
-TEST_F(CheckDialogsTest, LocationTypeRoundTrip) {
-    Check& check = NewCheck({"GroundObjective", "Tank", "Vehicle"});
-    CheckLocationTypePropertiesDlg dlg(e.weaver, check);
-    EXPECT_TRUE(dlg.boxes[2].ticked && dlg.boxes[19].ticked);
-    dlg.boxes[2].ticked = false;
-    dlg.boxes[0].ticked = true;
-    ASSERT_TRUE(dlg.Ok(e.prompts));
-    EXPECT_EQ(check.params, (Texts{"GroundObjective", "Transport", "Vehicle"}));
-
-    CheckLocationTypePropertiesDlg again(e.weaver, check);
-    for (int i = 0; i < 23; ++i)
-        EXPECT_EQ(again.boxes[i].ticked, i == 0 || i == 19) << i;
 }
 
 TEST_F(CheckDialogsTest, LocationTypeChangeTicksOnlyWhatTheStoredParamsName) {
@@ -223,24 +151,6 @@ TEST_F(CheckDialogsTest, LocationTypeResultValidity) {
         check.params = params;
         EXPECT_EQ(dlg.IsResultValid(), valid) << params.size();
     }
-}
-
-TEST_F(CheckDialogsTest, CoalitionWordRoundTrip) {
-    Check& check = NewCheck({"fen"});
-    CheckCoalitionPropertiesDlg dlg(e.weaver, check);
-    EXPECT_TRUE(dlg.friendly && dlg.enemy && dlg.neutral);
-    dlg.friendly = dlg.enemy = dlg.neutral = false;
-    ASSERT_TRUE(dlg.Ok(e.prompts));
-    EXPECT_TRUE(check.params.empty());
-    EXPECT_TRUE(dlg.IsResultValid());
-
-    check.params = {"nf"};
-    CheckCoalitionPropertiesDlg mixed(e.weaver, check);
-    EXPECT_TRUE(mixed.friendly && !mixed.enemy && mixed.neutral);
-    ASSERT_TRUE(mixed.Ok(e.prompts));
-    EXPECT_EQ(check.params, Texts{"fn"});
-    check.params.push_back("e");
-    EXPECT_FALSE(mixed.IsResultValid());
 }
 
 TEST_F(CheckDialogsTest, RangeNewCheckUsingTheParameter) {

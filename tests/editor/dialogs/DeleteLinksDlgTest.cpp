@@ -65,10 +65,5 @@ TEST_F(DeleteLinksDlgTest, RowsAfterALinkWithoutPhaseNoLongerLineUp) {
     EXPECT_TRUE(dialog.linkView.empty());
 }
 
-TEST(InputStringDlgTest, AnEmptyTitleShowsTheDefault) {
-    EXPECT_EQ(InputStringDlg("", "x").title, "Input String");
-    EXPECT_EQ(InputStringDlg("Enter Phase Action Name", "x").title, "Enter Phase Action Name");
-}
-
 } // namespace
 } // namespace lw

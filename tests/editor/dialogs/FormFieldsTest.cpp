@@ -69,18 +69,6 @@ TEST(ComboFieldTest, TheSelectionStaysOnItsEntryWhenOthersComeAndGo) {
     EXPECT_EQ(combo.Current(), -1);
 }
 
-TEST(ComboFieldTest, AnEditableComboShowsWhatWasTyped) {
-    ComboField combo(true, true);
-    combo.Add("alpha");
-    combo.SetCurrent(0);
-    EXPECT_EQ(combo.Text(), "alpha");
-    combo.SetEditText("nowhere");
-    EXPECT_EQ(combo.Text(), "nowhere");
-    EXPECT_EQ(combo.Current(), -1);
-    combo.Clear();
-    EXPECT_EQ(combo.Text(), "");
-}
-
 TEST(NumberFieldTest, OnlyWholeNumbersInRangePass) {
     RecordingPrompts prompts;
     NumberField field;
@@ -98,21 +86,6 @@ TEST(NumberFieldTest, OnlyWholeNumbersInRangePass) {
     field.text = "11";
     EXPECT_FALSE(ReadInt(field, value, prompts, 0, 10));
     EXPECT_EQ(prompts.MessageTexts().back(), "Please enter a whole number from 0 to 10.");
-}
-
-TEST(NumberFieldTest, FloatsReadWholeAndShowSixDigits) {
-    RecordingPrompts prompts;
-    NumberField field;
-    float value = 0;
-    for (const char* bad : {"", "abc", "1.5m", "nan", "1e39"}) {
-        field.text = bad;
-        EXPECT_FALSE(ReadFloat(field, value, prompts)) << bad;
-    }
-    field.text = "1500.25";
-    EXPECT_TRUE(ReadFloat(field, value, prompts));
-    EXPECT_FLOAT_EQ(value, 1500.25F);
-    field.ShowFloat(1500.0F);
-    EXPECT_EQ(field.text, "1500");
 }
 
 } // namespace

@@ -79,18 +79,6 @@ TEST(AzimuthAdditionalDlgTest, ServerBoxSetAndCleared) {
     EXPECT_EQ(Params(custom), (Texts{"-3", "0", "0"}));
 }
 
-TEST(AzimuthAdditionalDlgTest, ChangingTheAspectResetsItsValue) {
-    AzimuthAdditionalDlg dialog("12", "0", "0");
-    dialog.aspectCombo.SetCurrent(2);
-    dialog.OnAspectChanged();
-    EXPECT_EQ(Aspect(dialog), (Shown{"Random", "0"}));
-    EXPECT_FALSE(dialog.aspectValue.enabled);
-    dialog.aspectCombo.SetCurrent(0);
-    dialog.OnAspectChanged();
-    EXPECT_EQ(Aspect(dialog), (Shown{"Custom", "12"}));
-    EXPECT_TRUE(dialog.aspectValue.enabled);
-}
-
 TEST(GeometryDialogsTest, TextThatIsNoNumberKeepsTheDialogOpen) {
     RecordingPrompts prompts;
     AzimuthAdditionalDlg azimuth("5", "100", "10");
@@ -134,31 +122,6 @@ TEST(GeometryDialogsTest, FractalAndLineAspectCodesBothWays) {
     line.aspectCombo.SetCurrent(2);
     line.OnAspectChanged();
     EXPECT_EQ(Aspect(line), (Shown{"Random", "0"}));
-}
-
-TEST(GeometryDialogsTest, FractalTypeAndForeignTexts) {
-    RecordingPrompts prompts;
-    // The texts of an azimuth phase, read by the fractal rules.
-    CFractalAdditionalDlg fractal("-2", "1500.000000", "45");
-    EXPECT_EQ(Aspect(fractal), (Shown{"Custom", "-2"}));
-    EXPECT_EQ(fractal.deviation.text, "1500");
-    EXPECT_EQ(fractal.typeCombo.Current(), -1);
-    EXPECT_TRUE(fractal.aspectValue.digitsOnly && fractal.deviation.digitsOnly);
-
-    fractal.aspectCombo.SetCurrent(1);
-    fractal.OnAspectChanged();
-    fractal.deviation.text = "30";
-    fractal.typeCombo.SetCurrent(1);
-    ASSERT_TRUE(fractal.Ok(prompts));
-    EXPECT_EQ(Params(fractal), (Texts{"0", "30", "left"}));
-
-    // A new phase: its empty aspect reads as 0, the code of "Default", and
-    // no type is selected, which OK leaves empty.
-    CFractalAdditionalDlg fresh("", "", "");
-    EXPECT_EQ(Aspect(fresh), (Shown{"Default", "0"}));
-    ASSERT_TRUE(fresh.Ok(prompts));
-    EXPECT_EQ(Params(fresh), (Texts{"0", "0", ""}));
-    EXPECT_TRUE(prompts.MessageTexts().empty());
 }
 
 } // namespace

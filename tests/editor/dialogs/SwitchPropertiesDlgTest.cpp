@@ -27,15 +27,6 @@ protected:
     test::SampleEditor e;
 };
 
-TEST_F(SwitchPropertiesDlgTest, StartShowsTheSwitchAndOffersOnlyFreeCases) {
-    SwitchPropertiesDlg air(e.weaver, Named("SwitchAir"), {});
-    EXPECT_EQ(air.number.text, "1");
-    EXPECT_EQ(air.memberList.Texts(), (Texts{"CaseOpening", "CaseThreat"}));
-    EXPECT_EQ(air.candidateCombo.Texts(), Texts{"CaseFront"});
-    EXPECT_EQ(air.preliminaryCombo.At(7), "enemy_category_3");
-    EXPECT_FALSE(air.planeTypeEnabled);
-}
-
 TEST_F(SwitchPropertiesDlgTest, OkChecksInOrderAndWritesNothingWhenRefused) {
     Switch& air = Named("SwitchAir");
     SwitchPropertiesDlg dlg(e.weaver, air, {});

@@ -84,14 +84,6 @@ TEST_F(DeletePhaseTest, APhaseTakesAllThatBelongsToItAndUndoBringsItBack) {
     ExpectRestored({2, 3, 8, 1, 4, 5, 6, 7});
 }
 
-TEST_F(DeletePhaseTest, WhatIsSelectedWithItsPhaseIsTakenOnceInEitherOrder) {
-    Delete({4, 5, 6, 7, 1})->Undo();
-    ExpectRestored({2, 3, 8, 1, 4, 5, 6, 7});
-    // The property action goes with the phase, the rule action at its turn.
-    Delete({1, 7, 6, 5, 4})->Undo();
-    ExpectRestored({2, 3, 8, 1, 4, 6, 5, 7});
-}
-
 TEST_F(DeletePhaseTest, AnActionAloneGoesOnlyIfItIsARuleAction) {
     EXPECT_EQ(Delete({}), nullptr);
     const int repaints = editor.host.repaints;

@@ -100,16 +100,6 @@ TEST_F(ImportCommandTest, ALinkBetweenCopiedPhasesIsImportedAndUndoneWithThem) {
     EXPECT_TRUE(e.weaver.selection.members.empty());
 }
 
-TEST_F(ImportCommandTest, TheTargetIsTheClickInWorldUnits) {
-    Copy({"ReturnHome"});
-    const std::size_t before = e.weaver.objects.size();
-    e.weaver.PlaceTemplate(kClipboard, 100, 100, 10, 20, 2.0f);
-    // A single object has a box of no size: its anchor lands on the target.
-    EXPECT_EQ(e.weaver.objects[before]->posX, 40);
-    EXPECT_EQ(e.weaver.objects[before]->posY, 30);
-    EXPECT_EQ(e.weaver.interactionState(), InteractionState::StateIdle);
-}
-
 TEST_F(ImportCommandTest, AFileThatCannotBeReadMakesNoCommandButAnEmptyOneDoes) {
     e.weaver.PlaceTemplate("scg\\missing.mt", 0, 0, 0, 0, 1.0f);
     EXPECT_EQ(e.prompts.MessageTexts(), std::vector<std::string>{"Can't open template file!"});

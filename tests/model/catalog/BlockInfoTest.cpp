@@ -36,11 +36,3 @@ TEST(IsCompatibleWith, DuplicatesMakeItOneSided) {
     EXPECT_TRUE(IsCompatibleWith(doubled, distinct));
     EXPECT_FALSE(IsCompatibleWith(distinct, doubled));
 }
-
-TEST(BlockNameFromPath, DropsFolderAndExtension) {
-    EXPECT_EQ(BlockNameFromPath("scg\\0\\blocks\\a.group"), "a");
-    EXPECT_EQ(BlockNameFromPath("scg/0\\mixed/b.c.group"), "b.c");
-    EXPECT_EQ(BlockNameFromPath("plain"), "plain");
-    // The last dot counts even when it lies in a folder name.
-    EXPECT_EQ(BlockNameFromPath("scg\\v1.2\\block"), "v1");
-}

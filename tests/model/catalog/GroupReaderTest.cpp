@@ -28,12 +28,6 @@ TEST(SplitGroupLine, KeepsQuotedAndBracketedTextsWholeAndDropsSeparators) {
     EXPECT_EQ(SplitGroupLine("   "), Strings{});
 }
 
-TEST(SplitGroupLine, StepsOverCharactersThatNothingConsumes) {
-    EXPECT_EQ(SplitGroupLine("a/b:c\\d$e'f"), (Strings{"a", "b", "c", "d", "e", "f"}));
-    EXPECT_EQ(SplitGroupLine("//\xC3\xA9\xFF!?*"), Strings{});
-    EXPECT_EQ(SplitGroupLine("};"), Strings{"}"});
-}
-
 TEST(ReadGroupStream, ReadsGatesInFileOrderAndSkipsEverythingElse) {
     const BlockInfo info = Read("Name = \"top level\";\n"
                                 "MCU_H_Input\n{\n  Name = \"in 1\";\n  Index = 3;\n}\n"

@@ -42,10 +42,3 @@ TEST(ModelList, ASecondTypeOfTheSameNameReplacesTheFirst) {
     ASSERT_EQ(list.types.at("Boat").models.size(), 1u);
     EXPECT_EQ(list.types.at("Boat").models[0].name, "b");
 }
-
-TEST(ModelList, AModelBeforeAnyNameGoesToTheEmptyType) {
-    const ModelList list = Read("Type\n{\nModel\n{\nName = a;\nName \"\"\n}\nName \"\"\n");
-    ASSERT_EQ(list.types.count(""), 1u);
-    EXPECT_EQ(Describe(list.types.at("").models.at(0)), "/a/");
-    EXPECT_EQ(list.parseState, 1);
-}

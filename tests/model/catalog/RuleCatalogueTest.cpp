@@ -44,19 +44,6 @@ TEST(RuleCatalogue, ReadsFieldsFlagsAndAddBlocks) {
     EXPECT_EQ(catalogue.parseState, 0);
 }
 
-TEST(RuleCatalogue, ARuleWithoutKeysKeepsItsDefaults) {
-    const RuleCatalogue catalogue = Read("# comment\n\nAction\n{\n}\nAction\n{\nName = b;\n");
-    ASSERT_EQ(catalogue.rules.size(), 2u);
-    const RuleDef& rule = catalogue.rules[0];
-    EXPECT_EQ(rule.name, "");
-    EXPECT_EQ(rule.comment, "<empty>");
-    EXPECT_EQ(rule.format, "<empty>");
-    EXPECT_TRUE(rule.noHelper);
-    EXPECT_FALSE(rule.needCondition || rule.complex || rule.isImport);
-    EXPECT_TRUE(rule.adds.empty());
-    EXPECT_EQ(catalogue.parseState, 1);
-}
-
 TEST(RuleCatalogue, FindRuleTakesTheFirstOfAnExactName) {
     const RuleCatalogue catalogue =
         Read("Action\n{\nName = r;\nComment = first;\n}\nAction\n{\nName = r;\n}\n");

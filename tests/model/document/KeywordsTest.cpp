@@ -17,13 +17,6 @@ TEST(Keywords, GenerationTypesBothWaysWithServerSetPosForTheUnknown) {
         EXPECT_EQ(generationTypeToKeyword(GenerationType(value)), "server_setpos");
 }
 
-TEST(Keywords, GenerationTypeLabels) {
-    EXPECT_EQ(generationTypeLabel(GenerationAt), "At");
-    EXPECT_EQ(generationTypeLabel(GenerationServerWaypoint), "Server Set Waypoint");
-    EXPECT_EQ(generationTypeLabel(GenerationServerTargetPos), "Server Target Pos");
-    EXPECT_EQ(generationTypeLabel(GenerationType(8)), "Server Set Pos");
-}
-
 TEST(Keywords, CheckTypesBothWaysWithFreeForTheUnknown) {
     const char* keywords[] = {"squad",     "location_type", "coalition", "range",
                               "in_radius", "free",          "in_sector"};

@@ -22,23 +22,6 @@ using Strings = std::vector<std::string>;
 
 } // namespace
 
-TEST(ParserUtilsWords, SeparatorRunsGiveNoEmptyWord) {
-    EXPECT_EQ(Words("phase; x; azimuth(a,1,2,3); blocks_x; ;f;"),
-              (Strings{"phase", "x", "azimuth", "a", "1", "2", "3", "blocks_x", "f"}));
-    EXPECT_EQ(Words("check; p; in_radius(a,);"), (Strings{"check", "p", "in_radius", "a"}));
-    EXPECT_EQ(Words("  \t ;;; "), Strings{});
-}
-
-TEST(ParserUtilsWords, AngleBracketsAreSeparators) {
-    EXPECT_EQ(Words("action; p(o,n); <empty>();"), (Strings{"action", "p", "o", "n", "empty"}));
-    EXPECT_EQ(Words("at(<EMPTY>)"), (Strings{"at", "EMPTY"}));
-}
-
-TEST(ParserUtilsWords, PathsAndPunctuationAreWordCharacters) {
-    EXPECT_EQ(Words("tvd scg\\0\\"), (Strings{"tvd", "scg\\0\\"}));
-    EXPECT_EQ(Words("a/b.c:d_e-f+g$h{i}j|k }"), (Strings{"a/b.c:d_e-f+g$h{i}j|k", "}"}));
-}
-
 TEST(ParserUtilsWords, QuotedTextIsOneWord) {
     EXPECT_EQ(Words("Format \"set_value($property, $value)\""),
               (Strings{"Format", "set_value($property, $value)"}));
@@ -61,15 +44,6 @@ TEST(ParserUtilsWords, GetNextWordStopsBeforeBracketAndSkipsNothing) {
     std::size_t blank = 0;
     EXPECT_EQ(ParserUtils::getNextWord(" x", blank), "");
     EXPECT_EQ(blank, 0u);
-}
-
-TEST(ParserUtilsWords, EatAuxCharsStopsAtWordOrEnd) {
-    std::size_t pos = 0;
-    ParserUtils::eatAuxChars("; (<x", pos);
-    EXPECT_EQ(pos, 4u);
-    pos = 0;
-    ParserUtils::eatAuxChars(" ;", pos);
-    EXPECT_EQ(pos, 2u);
 }
 
 TEST(ParserUtilsEmbraced, ReadsUpToClosingAndTakesRestWhenUnterminated) {

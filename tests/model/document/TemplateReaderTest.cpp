@@ -21,26 +21,6 @@ TemplateDesc Read(const std::string& text, TemplateDesc desc = {}) {
 
 } // namespace
 
-TEST(TemplateReader, LineEndsMayBeLfOrCrLfAndTheLastMayBeMissing) {
-    const TemplateDesc expected = Read("case; a(p);\r\ntlink; a(o); b(i);\r\n");
-    ASSERT_EQ(expected.cases.size(), 1u);
-    ASSERT_EQ(expected.links.size(), 1u);
-    EXPECT_EQ(Read("case; a(p);\ntlink; a(o); b(i);\n"), expected);
-    EXPECT_EQ(Read("case; a(p);\ntlink; a(o); b(i);"), expected);
-    EXPECT_EQ(Read("case; a(p);\r\ntlink; a(o); b(i);"), expected);
-}
-
-TEST(TemplateReader, AVeryLongLineIsReadWholeAndTheNextFollows) {
-    std::string line = "case; c(";
-    for (int i = 0; i < 3000; ++i)
-        line += "phase_" + std::to_string(i) + ",";
-    ASSERT_GT(line.size(), 20000u);
-    const TemplateDesc desc = Read(line + "last);\r\ncase; d(p);\r\n");
-    ASSERT_EQ(desc.cases.size(), 2u);
-    EXPECT_EQ(desc.cases[0].phaseNames.size(), 3001u);
-    EXPECT_EQ(desc.cases[0].phaseNames.back(), "last");
-}
-
 TEST(TemplateReader, AppendsToWhatTheDescHoldsInFileOrder) {
     TemplateDesc before;
     before.cases.push_back(CaseDesc{"old", {}});

@@ -24,51 +24,6 @@ Lines RecordLines(const TemplateDesc& desc) {
 
 } // namespace
 
-TEST(TemplateWriter, EmptyDescWritesHeaderAndAllEightSections) {
-    EXPECT_EQ(TemplateDescText(TemplateDesc()),
-              "# tarnwick Ostrel mission template file [text dump]\r\n\r\n"
-              "#\r\n## block sets\r\n#\r\n\r\n"
-              "#\r\n## geo params\r\n#\r\n\r\n"
-              "#\r\n## cases & switches\r\n#\r\n\r\n"
-              "#\r\n## gate links\r\n#\r\n\r\n"
-              "#\r\n## conditions\r\n#\r\n\r\n"
-              "#\r\n## property actions\r\n#\r\n\r\n"
-              "#\r\n## unlinks\r\n#\r\n\r\n"
-              "#\r\n## gui helpers\r\n#\r\n");
-}
-
-TEST(TemplateWriter, OneLineForEachKindOfRecord) {
-    TemplateDesc d;
-    d.blockSets = {{"blocks_P1", {{"main", "blocks\\sample.group"}}}};
-    d.phases = {{"P1", GenerationRandom, {"P2"}, "blocks_P1", "clone_location", ""},
-                {"P2", GenerationAzimuth, {"<EMPTY>", "1", "2", "3"}, "blocks_P2", "", ""}};
-    d.cases = {{"C1", {"P1", "P2"}}};
-    d.switches = {{"S1", 1, 0, 2, {"C1"}}};
-    d.links = {{false, "P1", "out_1", "P2", "in_1"}};
-    d.checks = {{"P1", CheckInRadius, {"PRIMARY_LINK_PHASE"}}};
-    d.actions = {{"P1", "OBJECT", "Model", "<empty>", {}, ""}};
-    d.unlinks = {{true, "blocks_P1", {"in_1"}}};
-    d.guiHelpers = {{"P1", 100, 200, "", "", 3},
-                    {"C1", 300, 200, "", "", 0},
-                    {"check", 100, 250, "P1", "in_radius", 0},
-                    {"Model", 180, 200, "P1", "OBJECT", 0}};
-    EXPECT_EQ(RecordLines(d), (Lines{
-                                  "blocks_set; blocks_P1; main(blocks\\sample.group);",
-                                  "phase; P1; random(P2); blocks_P1; clone_location;;",
-                                  "phase; P2; azimuth(<EMPTY>,1,2,3); blocks_P2; ;;",
-                                  "case; C1(P1,P2);",
-                                  "switch; 1; 0; 2; S1(C1);",
-                                  "tlink; P1(out_1); P2(in_1);",
-                                  "check; P1; in_radius(PRIMARY_LINK_PHASE,);",
-                                  "action; P1(OBJECT,Model); <empty>();",
-                                  "unlink_nonplayer_input; blocks_P1(in_1)",
-                                  "gui_helper; P1; 100; 200;\"\"; ( ); 3;",
-                                  "gui_helper; C1; 300; 200;",
-                                  "gui_helper; check; 100; 250;P1(in_radius)",
-                                  "gui_helper; Model; 180; 200;P1; (OBJECT);",
-                              }));
-}
-
 // Records that no file reads back in this form: the writer still writes every
 // field it has, and the reader's loss is covered by the file cases.
 TEST(TemplateWriter, WritesWhatTheReaderWouldNotTakeBack) {

@@ -62,13 +62,6 @@ TEST(ScreenRectTest, PhaseSizeDependsOnTheScaleAlone) {
     EXPECT_EQ(Placed<Phase>(10, 10)->GetScreenRect(-20, 0, 1.5f), Rect(-15, 15, 285, 240));
 }
 
-TEST(ScreenRectTest, FarPositionsStayWithinRange) {
-    const auto far = Placed<Phase>(2147483000, -2147483000);
-    const ScreenRect rect = far->GetScreenRect(2147483000, -2147483000, 8.0f);
-    EXPECT_EQ(rect.left, 2147483647);
-    EXPECT_EQ(rect.top, -2147483647 - 1);
-}
-
 TEST(PhaseGatesTest, GatesSpreadOverTheHeightInIntegerSteps) {
     EXPECT_EQ(PhaseWithInputs(1)->GateScreenPoint("in0", true, 1.0f, 0, 0).y, 75);
     const auto two = PhaseWithInputs(2);
@@ -120,26 +113,6 @@ TEST(PhaseTest, ChecksStackBelowTheBox) {
     EXPECT_EQ(phase->checkIds, std::vector<std::int32_t>{8});
 }
 
-TEST(SmallObjectsTest, StripSetPrefixDropsSevenCharactersOfLongerTexts) {
-    EXPECT_EQ(StripSetPrefix("unlink_a"), "a");
-    EXPECT_EQ(StripSetPrefix("unlink_"), "unlink_");
-    EXPECT_EQ(StripSetPrefix("blocks_alpha"), "alpha");
-    EXPECT_EQ(StripSetPrefix("anything"), "g");
-}
-
-TEST(LinkTest, EveryFieldTakesPartInEquality) {
-    const Link link{true, 1, "out", 2, "in"};
-    Link other = link;
-    EXPECT_EQ(link, other);
-    other.isObjectLink = false;
-    EXPECT_NE(link, other);
-    other = link;
-    other.toGate = "IN";
-    EXPECT_NE(link, other);
-    EXPECT_EQ(Link().fromPhaseId, 0);
-    EXPECT_TRUE(Link().isObjectLink);
-}
-
 TEST(ObjectsGroupTest, BoundsAreTheUnionOfTheMembers) {
     ViewTransform view;
     ObjectsGroup group;
@@ -171,19 +144,4 @@ TEST(ObjectsGroupTest, BoundsAreTheUnionOfTheMembers) {
     group.Clear();
     EXPECT_EQ(group.posX, 0);
     EXPECT_EQ(group.posY, 0);
-}
-
-TEST(ObjectsGroupTest, EmptyRectanglesAddNothing) {
-    EXPECT_EQ(UnionRect(Rect(5, 5, 5, 9), Rect(1, 1, 2, 2)), Rect(1, 1, 2, 2));
-    EXPECT_EQ(UnionRect(Rect(1, 1, 2, 2), Rect(0, 0, 0, 0)), Rect(1, 1, 2, 2));
-    EXPECT_EQ(UnionRect(Rect(3, 3, 3, 3), Rect(4, 4, 1, 1)), Rect(0, 0, 0, 0));
-    // A group whose first member is empty keeps it only until a real one comes.
-    ViewTransform view;
-    view.scale = 0.0f;
-    ObjectsGroup group;
-    group.view = &view;
-    const auto check = Placed<Check>(10, 10);
-    group.Add(check.get());
-    group.Recalculate();
-    EXPECT_EQ(group.bounds, Rect(0, 0, 0, 0));
 }

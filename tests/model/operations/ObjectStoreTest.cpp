@@ -41,27 +41,6 @@ TEST(ObjectStoreTest, IdsGrowAndAreNeverReused) {
     EXPECT_EQ(store.NewPhase()->id, 1);
 }
 
-TEST(ObjectStoreTest, KindSpecificLookupsRefuseOtherKinds) {
-    ObjectStore store;
-    Case* object = store.NewCase();
-    object->name = "same";
-    Phase* phase = store.NewPhase();
-    phase->name = "same";
-    EXPECT_EQ(store.FindPhase(object->id), nullptr);
-    EXPECT_EQ(store.FindCase(object->id), object);
-    EXPECT_EQ(store.FindSwitch(object->id), nullptr);
-    EXPECT_EQ(store.FindPhaseByName("same"), phase);
-    EXPECT_EQ(store.FindCaseByName("same"), object);
-    EXPECT_EQ(store.FindPhaseByName("SAME"), nullptr);
-
-    // The name tests are separate for each kind and skip the asking object.
-    EXPECT_FALSE(store.PhaseNameTaken(phase->id, "same"));
-    EXPECT_TRUE(store.PhaseNameTaken(0, "same"));
-    EXPECT_FALSE(store.SwitchNameTaken(0, "same"));
-    store.NewPhase()->name = "same";
-    EXPECT_TRUE(store.PhaseNameTaken(phase->id, "same"));
-}
-
 TEST(ObjectStoreTest, LookupsFindTheFirstInListOrderAlsoAfterARestore) {
     ObjectStore store;
     Phase* first = store.NewPhase();
@@ -141,20 +120,6 @@ TEST(ObjectStoreTest, GateMarksFollowTheLinks) {
     EXPECT_FALSE(to->inputs[0].openMark);
     store.RefreshGateMarks();
     EXPECT_TRUE(to->inputs[0].openMark);
-}
-
-TEST(ObjectStoreTest, ClearingEmptiesTheSelectionFirst) {
-    ObjectStore store;
-    ViewTransform view;
-    store.selection.view = &view;
-    store.selection.Add(store.NewCase());
-    store.selection.Recalculate();
-    store.links.push_back(Link{});
-    store.ClearObjects();
-    EXPECT_TRUE(store.selection.members.empty());
-    EXPECT_EQ(store.selection.bounds, ScreenRect{});
-    EXPECT_TRUE(store.links.empty());
-    EXPECT_EQ(store.nextId, 1);
 }
 
 // Removing many at once must leave what removing them one by one leaves.

@@ -87,31 +87,6 @@ TEST_F(TemplateBuilderTest, PhaseTakesItsGatesFromTheFirstBlockKeyAndConsumesIts
     EXPECT_TRUE(prompts.Log().empty());
 }
 
-TEST_F(TemplateBuilderTest, APhaseWithoutGuiHelperKeepsTheColourOfThePhaseBefore) {
-    TemplateDesc desc;
-    for (const char* name : {"Z", "A", "B", "C", "D"})
-        AddPhase(desc, name);
-    desc.guiHelpers = {{"A", 5, 5, "", "", 6}, {"C", 7, 7, "", "", 7}};
-    builder.Build(desc);
-    Ids colours;
-    for (std::int32_t id = 1; id <= 5; ++id)
-        colours.push_back(Get<Phase>(id).colorIndex);
-    EXPECT_EQ(colours, (Ids{0, 6, 6, 0, 0}));
-    EXPECT_EQ(Get<Phase>(3).posX, 0);
-    EXPECT_EQ(Get<Phase>(4).posX, 7);
-}
-
-TEST_F(TemplateBuilderTest, APhaseWithoutBlocksIsRemovedButUsesUpItsId) {
-    TemplateDesc desc;
-    desc.phases.push_back(PhaseDesc{"Empty", GenerationRandom, {}, "no_such_set", "", ""});
-    AddPhase(desc, "P");
-    builder.Build(desc);
-    EXPECT_EQ(prompts.MessageTexts(), Strings{kNoBlocks});
-    ASSERT_EQ(store.objects.size(), 1u);
-    EXPECT_EQ(store.objects[0]->id, 2);
-    EXPECT_EQ(store.nextId, 3);
-}
-
 TEST_F(TemplateBuilderTest, UnknownBlocksAreReadFromTheirFilesAndAnUnreadableOneIsDropped) {
     disk.AddFile("/data/extra/New.Group", "MCU_H_Input\n{\n  Name = arrive;\n}\n");
     TemplateDesc desc;
@@ -151,35 +126,6 @@ TEST_F(TemplateBuilderTest, GeometryLinksAreTakenFromTheFrontOfTheParameters) {
     const Phase& server = Get<Phase>(4);
     EXPECT_EQ(server.primaryLinkId, 0);
     EXPECT_EQ(server.geoParams, (Strings{"T", "4"}));
-}
-
-TEST_F(TemplateBuilderTest, LinksNeedBothPhasesAndTheirGatesAndCloseTheGatesTheyUse) {
-    TemplateDesc desc;
-    AddPhase(desc, "A");
-    AddPhase(desc, "B");
-    AddPhase(desc, "C", {{"main", kTruck}});
-    desc.links = {{true, "A", "out", "B", "in"},    {false, "A", "done", "C", "t_in"},
-                  {true, "Nope", "out", "B", "in"}, {true, "A", "out", "Nope", "in"},
-                  {true, "A", "in", "B", "in"},     {true, "A", "out", "B", "out"},
-                  {true, "A", "out", "A", "in"}};
-    std::vector<Link> made;
-    builder.Build(desc, nullptr, &made);
-    const std::string wrong = "Wrong link (can't find corresponding connections in phases)";
-    EXPECT_EQ(prompts.MessageTexts(),
-              (Strings{"Can't find From phase for link", kLinkError, "Can't find To phase for link",
-                       kLinkError, wrong, kLinkError, wrong, kLinkError,
-                       "Can't find To phase for link", kLinkError}));
-    for (const RecordingPrompts::Shown& shown : prompts.Log())
-        EXPECT_EQ(shown.icon, MessageIcon::Stop);
-    const std::vector<Link> expected{{true, 1, "out", 2, "in"}, {false, 1, "done", 3, "t_in"}};
-    EXPECT_EQ(store.links, expected);
-    EXPECT_EQ(made, expected);
-    EXPECT_EQ(Get<Phase>(1).outputs,
-              (std::vector<GateSlot>{GateSlot{"out", false}, GateSlot{"done", false}}));
-    EXPECT_TRUE(Get<Phase>(1).inputs[0].openMark);
-    EXPECT_FALSE(Get<Phase>(2).inputs[0].openMark);
-    EXPECT_TRUE(Get<Phase>(2).outputs[0].openMark);
-    EXPECT_FALSE(Get<Phase>(3).inputs[0].openMark);
 }
 
 TEST_F(TemplateBuilderTest, TheSourceIsTheFirstPhaseOfItsNameAndTheDestinationAnother) {

@@ -90,19 +90,6 @@ TEST_F(TemplateExporterTest, CasesAndSwitchesNameOnlyWhatResolves) {
     EXPECT_EQ(desc.guiHelpers[2], (GuiHelperDesc{"s", 0, 8, "", "", 0}));
 }
 
-TEST_F(TemplateExporterTest, LinksNeedBothPhases) {
-    const std::int32_t from = AddPhase("from")->id;
-    Phase* removed = AddPhase("removed");
-    const std::int32_t aCase = store.NewCase()->id;
-    store.links = {{false, from, "no such gate", from, "in"},
-                   {true, from, "out", removed->id, "in"},
-                   {true, aCase, "out", from, "in"}};
-    store.RemoveObject(removed);
-
-    EXPECT_EQ(Export().links,
-              (std::vector<LinkDesc>{{false, "from", "no such gate", "from", "in"}}));
-}
-
 TEST_F(TemplateExporterTest, ChecksOfMeasuredTypesNameThePrimaryLinkPhase) {
     const std::int32_t phase = AddPhase("p")->id;
     const auto addCheck = [&](std::int32_t type, const Words& params) {
@@ -151,27 +138,6 @@ TEST_F(TemplateExporterTest, UnlinkersNameTheBlockSetAndVanishWithoutGates) {
                                                      {false, "blocks_p", {"o2"}}}));
     EXPECT_EQ(HelperNames(desc), (Words{"p", "unlink_p", "unlink_p"}));
     EXPECT_EQ(desc.guiHelpers[2].x, 4);
-}
-
-TEST_F(TemplateExporterTest, ObjectsWithoutAPhaseLeaveNoTrace) {
-    Phase* removed = AddPhase("removed");
-    const std::int32_t aCase = store.NewCase()->id;
-    for (std::int32_t phaseId : {0, removed->id, aCase}) {
-        store.NewCheck()->phaseId = phaseId;
-        Action* action = store.NewAction();
-        action->phaseId = phaseId;
-        action->rules = {{"r", {}, ""}};
-        Unlinker* unlinker = store.NewUnlinker();
-        unlinker->phaseId = phaseId;
-        unlinker->inputGates = {"g"};
-    }
-    store.RemoveObject(removed);
-
-    const TemplateDesc desc = Export();
-    EXPECT_TRUE(desc.checks.empty());
-    EXPECT_TRUE(desc.actions.empty());
-    EXPECT_TRUE(desc.unlinks.empty());
-    EXPECT_EQ(HelperNames(desc), Words{"case_2"});
 }
 
 TEST_F(TemplateExporterTest, RecordsFollowObjectOrderAndHelpersGoKindByKind) {

@@ -120,17 +120,6 @@ TEST_F(NativeWriting, AReadOnlyFileIsRefusedAndUntouched) {
 }
 
 #ifndef _WIN32
-TEST_F(NativeWriting, AFolderThatMayNotBeWrittenIsRefused) {
-    if (RunningAsRoot())
-        GTEST_SKIP() << "root may write any folder";
-    fs::create_directory(root / "locked");
-    std::ofstream(root / "locked" / "a.mt") << "old";
-    fs::permissions(root / "locked", fs::perms::owner_read | fs::perms::owner_exec);
-    EXPECT_FALSE(disk.ReplaceFile(At("locked/a.mt"), "new"));
-    EXPECT_FALSE(disk.ReplaceFile(At("locked/b.mt"), "new"));
-    EXPECT_EQ(Bytes(root / "locked" / "a.mt"), "old");
-    EXPECT_EQ(Listing(root / "locked"), (Names{"a.mt"}));
-}
 #endif
 
 TEST_F(NativeWriting, SavingThroughALinkWritesTheFileItNames) {
@@ -158,22 +147,6 @@ TEST_F(NativeWriting, FileAccessWritesABackslashPathIntoMixedCaseFolders) {
     EXPECT_EQ(Bytes(folder / "New.mt"), "made");
     EXPECT_EQ(Bytes(folder / "Old.mt"), "replaced");
     EXPECT_EQ(Listing(root / "Data"), (Names{"Scg"}));
-}
-
-TEST(MemoryWriting, WritesOnlyIntoExistingFoldersAndNeverOverAFolder) {
-    MemoryFileSystem disk;
-    disk.AddFile("/d/a.mt", "old");
-    disk.AddDirectory("/d/sub");
-    EXPECT_TRUE(disk.ReplaceFile("/d/b.mt", "new file"));
-    EXPECT_TRUE(disk.ReplaceFile("/d/a.mt", "replaced"));
-    EXPECT_FALSE(disk.ReplaceFile("/nowhere/c.mt", "x"));
-    EXPECT_FALSE(disk.ReplaceFile("/d/sub", "x"));
-    EXPECT_EQ(disk.KindOf("/nowhere"), PathKind::Missing);
-    EXPECT_EQ(disk.KindOf("/d/sub"), PathKind::Directory);
-    std::string line;
-    std::getline(*disk.OpenForReading("/d/a.mt"), line);
-    EXPECT_EQ(line, "replaced");
-    EXPECT_EQ(disk.ListDirectory("/d").size(), 3u);
 }
 
 TEST(MemoryWriting, ReadOnlyFilesAndAFullDiskKeepTheOldContent) {
