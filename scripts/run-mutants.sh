@@ -9,12 +9,14 @@
 #   scripts/run-mutants.sh [list] [ctest-regex]
 #
 # list defaults to tests/mutants.txt; ctest-regex limits the tests run for
-# every mutant (by default all but the format check). The scratch copy is
-# build-mutants/src, kept between runs so that its build (build-mutants/src/
-# build) stays incremental.
+# every mutant (by default all but the format check). MUTANTS_SOURCE names
+# another checkout to copy, such as a worktree of an older suite. The scratch
+# copy is build-mutants/src, kept between runs so that its build
+# (build-mutants/src/build) stays incremental.
 set -uo pipefail
 REPO_ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-LIST=${1:-$REPO_ROOT/tests/mutants.txt}
+SOURCE=${MUTANTS_SOURCE:-$REPO_ROOT}
+LIST=${1:-$SOURCE/tests/mutants.txt}
 TESTS=${2:-.}
 SCRATCH="$REPO_ROOT/build-mutants"
 COPY="$SCRATCH/src"
@@ -24,9 +26,11 @@ BUILD="$COPY/build"
 
 say() { printf '==> %s\n' "$*"; }
 
-say "Copying the checkout into $COPY"
+say "Copying $SOURCE into $COPY"
 mkdir -p "$COPY"
-rsync -a --delete --exclude '/build*' --exclude '/.git' "$REPO_ROOT/" "$COPY/"
+# By content, without the times: a file that differs gets a new time and is
+# rebuilt, even when it is older than what a stopped run compiled.
+rsync -rlpD --checksum --delete --exclude '/build*' --exclude '/.git' "$SOURCE/" "$COPY/"
 cmake -S "$COPY" -B "$BUILD" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DLOOMWRIGHT_BUILD_BENCHMARKS=OFF >/dev/null
 say "Building the unchanged copy"
@@ -56,6 +60,15 @@ while IFS= read -r line || [ -n "$line" ]; do
     esac
 done <"$LIST"
 flush
+
+# A run stopped halfway puts the mutated file back and marks it for rebuilding.
+restore() {
+    for orig in $(find "$COPY/src" -name '*.orig'); do
+        mv "$orig" "${orig%.orig}"
+        touch "${orig%.orig}"
+    done
+}
+trap 'restore; exit 130' INT TERM
 
 killed=0 survived=0 errors=0
 report="$SCRATCH/report.txt"

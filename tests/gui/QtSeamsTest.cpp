@@ -118,30 +118,6 @@ private slots:
         QVERIFY(Listing(folder.filePath("sub")).isEmpty());
     }
 
-    // Even the superuser, whom the system lets write any file, is refused.
-    void readOnlyFilesAreRefusedAndUntouched() {
-        QTemporaryDir folder;
-        const QString path = folder.filePath("a.mt");
-        MakeFile(path, "old");
-        QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
-
-        QtFileSystem disk;
-        const bool readOnly = disk.IsReadOnly(path.toStdString());
-        const bool replaced = disk.ReplaceFile(path.toStdString(), "new");
-        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
-        QVERIFY(readOnly);
-        QVERIFY(!replaced);
-        QCOMPARE(Bytes(path), QByteArray("old"));
-        QCOMPARE(Listing(folder.path()), QStringList({"a.mt"}));
-    }
-
-    void templateFilterBecomesQtsForm() {
-        QCOMPARE(QtFilterFromRequest("Mission Template Files (*.mt)|*.mt||"),
-                 QString("Mission Template Files (*.mt)"));
-        QCOMPARE(QtFilterFromRequest("Texts|*.txt;*.log|All|*.*||"),
-                 QString("Texts (*.txt *.log)\nAll (*.*)"));
-    }
-
     void missingDisplayIsOneClearLine() {
         const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
         const QByteArray display = qgetenv("DISPLAY");

@@ -85,20 +85,6 @@ TEST_F(ActionGeneralPropertiesDlgTest, ConditionKeepsOnlyPiecesWithAnOperator) {
     }
 }
 
-TEST_F(ActionGeneralPropertiesDlgTest, PlainRulesTakeTheirParametersFromThePreview) {
-    // The import flag means nothing without the complex one.
-    EXPECT_EQ(Add("set_weather", "rain", "m>1"), (Rules{{"set_weather", {"rain"}, "if(m>1); "}}));
-    EXPECT_EQ(Add("spawn_delay", "30", "wave >= 2"),
-              (Rules{{"spawn_delay", {"30", "30"}, "if(wave>=2); "}}));
-    EXPECT_TRUE(e.prompts.Log().empty());
-
-    EXPECT_TRUE(Add("spawn_delay", "30").empty());
-    EXPECT_TRUE(Add("spawn_delay", "30", "ready; x").empty());
-    ASSERT_EQ(e.prompts.Log().size(), 2u);
-    EXPECT_EQ(e.prompts.Log()[1].text, "This rule needs condition!");
-    EXPECT_EQ(e.prompts.Log()[1].icon, MessageIcon::Stop);
-}
-
 TEST_F(ActionGeneralPropertiesDlgTest, ComplexRulesBringTheirAddsOrAnImport) {
     ActionGeneralPropertiesDlg dialog(e.weaver.ruleCatalogue, action);
     Choose(dialog, "dawn_pack");

@@ -25,19 +25,6 @@ protected:
     test::SampleEditor e;
 };
 
-TEST_F(ActionModelDialogsTest, SkinAndCountryListTheirWordsAndSelectTheStoredOne) {
-    ActionSkinPropertiesDlg skin(e.weaver, MakeAction({{"set_skin", {"$plane_3_skin"}, ""}}));
-    EXPECT_EQ(skin.skinCombo.Count(), 38);
-    EXPECT_EQ(skin.skinCombo.At(0), "$player_skin");
-    EXPECT_EQ(skin.skinCombo.At(37), "$plane_5_skin");
-    EXPECT_EQ(skin.skinCombo.Text(), "$plane_3_skin");
-
-    ActionCountryPropertiesDlg country(e.weaver, MakeAction({{"set_country", {"friendly"}, ""}}));
-    EXPECT_EQ(country.countryCombo.Texts(),
-              (Texts{"clone_location", "enemy", "friendly", "from_server"}));
-    EXPECT_EQ(country.countryCombo.Text(), "friendly");
-}
-
 TEST_F(ActionModelDialogsTest, SkinAndCountryOkRefuseNoChoiceThenKeepOneRuleAndItsCondition) {
     Action& skinAction = MakeAction({{"set_skin", {"unknown"}, ""}, {"second", {"a"}, "b"}});
     ActionSkinPropertiesDlg skin(e.weaver, skinAction);

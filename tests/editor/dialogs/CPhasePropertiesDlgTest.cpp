@@ -174,17 +174,6 @@ TEST_F(PhaseDialogTest, OkWritesWhatEachGenerationTypeCarries) {
     }
 }
 
-TEST_F(PhaseDialogTest, ALinkNameThatFindsNoPhaseLeavesTheLinkAsItWas) {
-    Phase& front = Named("FrontSector");
-    const std::int32_t primary = front.primaryLinkId;
-    CPhasePropertiesDlg dialog(e.weaver, front);
-    dialog.primaryCombo.SetEditText("Nobody");
-    dialog.secondaryCombo.SetEditText("");
-    ASSERT_TRUE(dialog.Ok(e.prompts));
-    EXPECT_EQ(front.primaryLinkId, primary);
-    EXPECT_EQ(front.secondaryLinkId, Named("FuelDepot").id);
-}
-
 TEST_F(PhaseDialogTest, GatesAndPropertiesComeFromTheMainBlockAlone) {
     const BlockInfo patrol = e.weaver.blockPool.GetBlock(kPatrol);
     Phase& phase = *e.weaver.NewPhase();
@@ -207,18 +196,6 @@ TEST_F(PhaseDialogTest, GatesAndPropertiesComeFromTheMainBlockAlone) {
     ASSERT_TRUE(edit.Ok(e.prompts));
     EXPECT_EQ(recon.blockProperties.count("Kept"), 1u);
     EXPECT_TRUE(recon.inputs[0].openMark);
-}
-
-TEST_F(PhaseDialogTest, AnAdditionalKeyBeforeMainSwapsPlacesWithTheMainBlock) {
-    const std::string fuel = "scg\\0\\blocks\\ground\\depots\\fuel_depot.group";
-    const std::string ammo = "scg\\0\\blocks\\ground\\depots\\ammodepot.group";
-    Phase& depot = Named("FuelDepot");
-    depot.blocks = {{"main", fuel}, {"ammodepot_a", ammo}};
-    CPhasePropertiesDlg dialog(e.weaver, depot);
-    EXPECT_EQ(dialog.mainBlockCombo.Text(), ammo);
-    EXPECT_EQ(dialog.additionalList.Texts(), Texts{fuel});
-    ASSERT_TRUE(dialog.Ok(e.prompts));
-    EXPECT_EQ(depot.blocks, (Blocks{{"main", ammo}, {"fuel_depot_a", fuel}}));
 }
 
 TEST_F(PhaseDialogTest, AdditionalKeysCountOnPastZAndKeepDuplicates) {
@@ -261,33 +238,6 @@ TEST_F(PhaseDialogTest, AllocationFollowsTheGenerationType) {
     EXPECT_EQ(again.allocationCombo.Current(), -1);
     ASSERT_TRUE(again.Ok(e.prompts));
     EXPECT_EQ(phase.allocationType, "");
-}
-
-TEST_F(PhaseDialogTest, GeometryTextsOutliveAChangeOfTypeAndComeFromTheirDialog) {
-    Phase& recon = Named("ReconSweep");
-    const Texts azimuth = recon.geoParams;
-    CPhasePropertiesDlg dialog(e.weaver, recon);
-    sub.accept = false;
-    dialog.OnMoreParameters(sub);
-    EXPECT_EQ(sub.given, azimuth);
-    EXPECT_EQ(dialog.geoParam1, azimuth[0]) << "Cancel keeps the texts";
-
-    SetGeneration(dialog, 2);
-    EXPECT_TRUE(dialog.secondaryCombo.enabled && dialog.moreParametersEnabled);
-    sub.accept = true;
-    dialog.OnMoreParameters(sub);
-    SetGeneration(dialog, 3);
-    dialog.OnMoreParameters(sub);
-    SetGeneration(dialog, 0);
-    dialog.OnMoreParameters(sub);
-    EXPECT_EQ(sub.opened, (Texts{"Azimuth Additional Parameters", "Fractal Additional Parameters",
-                                 "Line Additional Parameters"}));
-    EXPECT_EQ((Texts{dialog.geoParam1, dialog.geoParam2, dialog.geoParam3}), sub.params);
-
-    CPhasePropertiesDlg fractal(e.weaver, recon);
-    SetGeneration(fractal, 2);
-    ASSERT_TRUE(fractal.Ok(e.prompts)) << "the azimuth texts pass as the fractal's";
-    EXPECT_EQ(recon.geoParams, azimuth);
 }
 
 TEST_F(PhaseDialogTest, AddBlocksAndTheDeleteButtonsEditTheAdditionalList) {

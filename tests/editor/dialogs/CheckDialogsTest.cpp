@@ -112,17 +112,6 @@ TEST_F(CheckDialogsTest, LocationTypeOkChecksInOrder) {
     EXPECT_TRUE(dlg.IsResultValid());
 }
 
-TEST_F(CheckDialogsTest, LocationTypeChangeTicksOnlyWhatTheStoredParamsName) {
-    Check& check = NewCheck({"AirObjective", "Dogfight", "Balloon"});
-    CheckLocationTypePropertiesDlg dlg(e.weaver, check);
-    dlg.boxes[0].ticked = true;
-    dlg.typeCombo.SetCurrent(2);
-    dlg.OnTypeChanged();
-    EXPECT_EQ(dlg.boxes[7].caption, "Balloon");
-    for (int i = 0; i < 23; ++i)
-        EXPECT_EQ(dlg.boxes[i].ticked, i == 0 || i == 7) << i;
-}
-
 // Hidden boxes keep their captions and ticks, and OK writes them as well.
 TEST_F(CheckDialogsTest, LocationTypeHiddenBoxesAreTickedAndWritten) {
     Check& check = NewCheck({"Decoration", "LandingSign"});
@@ -151,28 +140,6 @@ TEST_F(CheckDialogsTest, LocationTypeResultValidity) {
         check.params = params;
         EXPECT_EQ(dlg.IsResultValid(), valid) << params.size();
     }
-}
-
-TEST_F(CheckDialogsTest, RangeNewCheckUsingTheParameter) {
-    Check& check = NewCheck({kPrimaryLinkPhase, "closest_outof", "1000"});
-    CheckRangePropertiesDlg dlg(e.weaver, check);
-    EXPECT_TRUE(dlg.closest && !dlg.useParameter && dlg.range.enabled);
-    EXPECT_EQ(dlg.range.text, "1000");
-    dlg.useParameter = true;
-    dlg.OnUseParameterClicked();
-    EXPECT_FALSE(dlg.range.enabled);
-    ASSERT_TRUE(dlg.Ok(e.prompts));
-    EXPECT_EQ(check.params, (Texts{kPrimaryLinkPhase, "closest_outof", "-1"}));
-
-    CheckRangePropertiesDlg again(e.weaver, check);
-    EXPECT_TRUE(again.closest && again.useParameter && !again.range.enabled);
-    again.closest = again.useParameter = false;
-    again.range.text = "250";
-    ASSERT_TRUE(again.Ok(e.prompts));
-    EXPECT_EQ(check.params, (Texts{kPrimaryLinkPhase, "at", "250"}));
-    EXPECT_TRUE(again.IsResultValid());
-    check.params.pop_back();
-    EXPECT_FALSE(again.IsResultValid());
 }
 
 // A refused range is written all the same; text that is no number writes the

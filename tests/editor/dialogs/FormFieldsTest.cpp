@@ -22,27 +22,6 @@ TEST(ListFieldTest, SortedListsIgnoreCaseAndKeepTiesInTheirOrder) {
     EXPECT_EQ(unsorted.Texts(), (Texts{"b", "a"}));
 }
 
-TEST(ListFieldTest, SelectionFollowsTheListsMode) {
-    ListField single;
-    single.Add("a");
-    single.Add("b");
-    single.Select(0);
-    single.Select(1);
-    EXPECT_EQ(single.SelectedIndexes(), std::vector<int>{1});
-
-    ListField multiple(false, ListField::Selection::Multiple);
-    multiple.Add("a");
-    multiple.Add("b");
-    multiple.Select(0);
-    multiple.Select(1);
-    EXPECT_EQ(multiple.SelectedTexts(), (Texts{"a", "b"}));
-
-    ListField none(false, ListField::Selection::None);
-    none.Add("a");
-    none.Select(0);
-    EXPECT_TRUE(none.SelectedIndexes().empty());
-}
-
 TEST(ComboFieldTest, SelectingByTextTakesTheFirstEntryThatBeginsWithIt) {
     ComboField combo(true);
     for (const char* text : {"PHASE_10", "phase_1", "Patrol"})

@@ -45,40 +45,6 @@ TEST(AzimuthAdditionalDlgTest, AspectCodesReadAndWrittenBothWays) {
     EXPECT_EQ(Aspect(AzimuthAdditionalDlg(custom.param1, "", "")), (Shown{"Default", "0"}));
 }
 
-TEST(AzimuthAdditionalDlgTest, ServerBoxSetAndCleared) {
-    RecordingPrompts prompts;
-    AzimuthAdditionalDlg dialog("-3", "0", "0");
-    EXPECT_TRUE(dialog.fromServer);
-    EXPECT_EQ(Aspect(dialog), (Shown{"", "-3"}));
-    EXPECT_FALSE(dialog.aspectCombo.enabled || dialog.aspectValue.enabled || dialog.range.enabled ||
-                 dialog.azimuth.enabled);
-
-    dialog.fromServer = false;
-    dialog.OnFromServerClicked();
-    EXPECT_EQ(Aspect(dialog), (Shown{"Default", "0"}));
-    EXPECT_EQ(dialog.range.text, "0");
-    EXPECT_TRUE(dialog.aspectCombo.enabled && dialog.range.enabled && dialog.azimuth.enabled);
-    EXPECT_FALSE(dialog.aspectValue.enabled);
-
-    // Cleared on a custom aspect, the texts it opened on come back.
-    AzimuthAdditionalDlg custom("5", "100", "10");
-    custom.range.text = "999";
-    custom.fromServer = true;
-    custom.OnFromServerClicked();
-    EXPECT_EQ(Aspect(custom), (Shown{"", "-3"}));
-    EXPECT_EQ(custom.range.text, "0");
-    custom.fromServer = false;
-    custom.OnFromServerClicked();
-    EXPECT_EQ(Aspect(custom), (Shown{"Custom", "5"}));
-    EXPECT_EQ(custom.range.text, "100");
-    EXPECT_TRUE(custom.aspectValue.enabled);
-
-    custom.fromServer = true;
-    custom.OnFromServerClicked();
-    ASSERT_TRUE(custom.Ok(prompts));
-    EXPECT_EQ(Params(custom), (Texts{"-3", "0", "0"}));
-}
-
 TEST(GeometryDialogsTest, TextThatIsNoNumberKeepsTheDialogOpen) {
     RecordingPrompts prompts;
     AzimuthAdditionalDlg azimuth("5", "100", "10");

@@ -73,17 +73,6 @@ TEST_F(SwitchPropertiesDlgTest, OkChecksInOrderAndWritesNothingWhenRefused) {
     EXPECT_TRUE(dlg.Ok(e.prompts)) << "a number of 0 is accepted";
 }
 
-TEST_F(SwitchPropertiesDlgTest, TheNumberMayNotExceedTheCases) {
-    SwitchPropertiesDlg dlg(e.weaver, Named("SwitchAir"), {});
-    dlg.number.text = "2";
-    EXPECT_TRUE(dlg.Ok(e.prompts));
-    dlg.memberList.Select(0);
-    dlg.OnRemove();
-    EXPECT_FALSE(dlg.Ok(e.prompts));
-    EXPECT_EQ(e.prompts.MessageTexts().size(), 1u);
-    EXPECT_EQ(Named("SwitchAir").caseIds.size(), 2u);
-}
-
 TEST_F(SwitchPropertiesDlgTest, OkWritesTheFieldsAndTheCasesInNameOrder) {
     e.weaver.NewCase()->name = "zulu";
     e.weaver.NewCase()->name = "Alpha";

@@ -1,6 +1,5 @@
 #include "operations/TemplateBuilder.h"
 
-#include "operations/GuiHelperPool.h"
 #include "platform/MemoryFileSystem.h"
 #include "platform/RecordingPrompts.h"
 
@@ -139,108 +138,6 @@ TEST_F(TemplateBuilderTest, TheSourceIsTheFirstPhaseOfItsNameAndTheDestinationAn
     AddPhase(desc, "X");
     builder.Build(desc);
     EXPECT_EQ(store.links, (std::vector<Link>{{true, 1, "out", 2, "in"}}));
-}
-
-TEST_F(TemplateBuilderTest, CasesAndSwitchesKeepTheMembersTheyFind) {
-    TemplateDesc desc;
-    AddPhase(desc, "P");
-    AddPhase(desc, "Q");
-    desc.cases = {{"C1", {"P", "P", "Nope", "Q"}}, {"C2", {"Q"}}};
-    desc.switches = {{"S", 2, 3, 1, {"C1", "C1", "Nope", "C2"}}};
-    desc.guiHelpers = {{"C2", 5, 6, "", "", 0}, {"S", 7, 8, "", "", 0}, {"C1", 1, 2, "", "", 0}};
-    builder.Build(desc);
-    EXPECT_EQ(Get<Case>(3).phaseIds, (Ids{1, 2}));
-    EXPECT_EQ(Get<Case>(4).phaseIds, Ids{2});
-    EXPECT_EQ(Get<Phase>(1).caseId, 3);
-    EXPECT_EQ(Get<Phase>(2).caseId, 4);
-    const Switch& choice = Get<Switch>(5);
-    EXPECT_EQ(choice.caseIds, (Ids{3, 3, 4}));
-    EXPECT_EQ(std::tie(choice.number, choice.preliminaryCheck, choice.planeType),
-              std::make_tuple(2, 3, 1));
-    EXPECT_EQ(Get<Case>(3).switchId, 5);
-    EXPECT_EQ(Get<Case>(4).switchId, 5);
-    EXPECT_EQ(std::tie(Get<Case>(3).posX, Get<Case>(3).posY), std::make_tuple(1, 2));
-    EXPECT_EQ(std::tie(choice.posX, choice.posY), std::make_tuple(7, 8));
-    EXPECT_TRUE(desc.guiHelpers.empty());
-    EXPECT_TRUE(prompts.Log().empty());
-}
-
-TEST_F(TemplateBuilderTest, ChecksTakeTheirGuiHelpersInFileOrder) {
-    TemplateDesc desc;
-    AddPhase(desc, "P");
-    desc.checks = {{"P", CheckRange, {"a"}}, {"P", CheckRange, {"b"}}, {"Nope", CheckRange, {"c"}}};
-    desc.guiHelpers = {{"check", 1, 1, "P", "free", 0},
-                       {"check", 2, 2, "P", "range", 0},
-                       {"check", 3, 3, "Q", "range", 0},
-                       {"check", 4, 4, "P", "range", 0}};
-    builder.Build(desc);
-    EXPECT_EQ(Get<Phase>(1).checkIds, (Ids{2, 3}));
-    EXPECT_EQ(Get<Check>(2).posX, 2);
-    EXPECT_EQ(Get<Check>(3).posX, 4);
-    EXPECT_EQ(Get<Check>(3).params, Strings{"b"});
-    const Check& unplaced = Get<Check>(4);
-    EXPECT_EQ(std::tie(unplaced.phaseId, unplaced.type, unplaced.posX), std::make_tuple(0, 5, 0));
-    EXPECT_TRUE(unplaced.params.empty());
-    EXPECT_EQ(desc.guiHelpers.size(), 2u);
-    EXPECT_TRUE(prompts.Log().empty());
-}
-
-TEST_F(TemplateBuilderTest, ActionRecordsOfOnePhaseObjectAndNameMakeOneAction) {
-    TemplateDesc desc;
-    AddPhase(desc, "P");
-    desc.actions = {{"P", "Plane", "Skin", "empty", {}, ""},
-                    {"P", "Plane", "Skin", "set_skin", {"x"}, "c"},
-                    {"P", "Plane", "Skin", "empty", {}, ""},
-                    {"P", "Plane", "Country", "set_country", {"y"}, ""},
-                    {"P", "Other", "Skin", "set_skin", {"z"}, ""},
-                    {"Nope", "Plane", "Skin", "set_skin", {}, ""},
-                    {"Nope", "Plane", "Skin", "set_skin", {}, ""}};
-    desc.guiHelpers = {{"Skin", 4, 5, "P", "Other", 0}, {"Skin", 6, 7, "P", "Plane", 0}};
-    builder.Build(desc);
-    const Action& skin = Get<Action>(2);
-    EXPECT_EQ(skin.rules, (std::vector<ActionRule>{{"set_skin", {"x"}, "c"}, {"empty", {}, ""}}));
-    EXPECT_EQ(std::tie(skin.posX, skin.posY), std::make_tuple(6, 7));
-    EXPECT_EQ(Get<Action>(3).rules.size(), 1u);
-    EXPECT_EQ(Get<Action>(4).posX, 4);
-    EXPECT_EQ(Get<Phase>(1).actionIds, (Ids{2, 3, 4}));
-    // Each unplaced record makes an empty action of its own.
-    for (std::int32_t id : {5, 6}) {
-        EXPECT_EQ(Get<Action>(id).phaseId, 0);
-        EXPECT_TRUE(Get<Action>(id).name.empty());
-        EXPECT_TRUE(Get<Action>(id).rules.empty());
-    }
-    EXPECT_EQ(store.nextId, 7);
-}
-
-TEST_F(TemplateBuilderTest, TheUnlinkRecordsOfAPhaseMakeOneUnlinker) {
-    TemplateDesc desc;
-    AddPhase(desc, "P");
-    AddPhase(desc, "Q");
-    desc.unlinks = {{true, "unlink_P", {"in"}},
-                    {false, "unlink_Nope", {"x"}},
-                    {false, "unlink_Q", {"out"}},
-                    {false, "unlink_P", {"out", "done"}}};
-    desc.guiHelpers = {{"blocks_P", 30, 40, "", "", 0}};
-    builder.Build(desc);
-    ASSERT_EQ(store.objects.size(), 4u);
-    Unlinker& unlinker = Get<Unlinker>(3);
-    EXPECT_EQ(unlinker.phaseId, 1);
-    EXPECT_EQ(unlinker.inputGates, Strings{"in"});
-    EXPECT_EQ(unlinker.outputGates, (Strings{"out", "done"}));
-    EXPECT_EQ(std::tie(unlinker.posX, unlinker.posY), std::make_tuple(30, 40));
-    EXPECT_EQ(Get<Unlinker>(4).phaseId, 2);
-    EXPECT_EQ(Get<Unlinker>(4).posX, 0);
-    EXPECT_EQ(desc.guiHelpers.size(), 1u);
-    EXPECT_TRUE(prompts.Log().empty());
-
-    // A later record replaces the gates and leaves the unlinker where it is.
-    unlinker.posX = 99;
-    desc.unlinks = {{false, "unlink_P", {"new"}}};
-    GuiHelperPool helpers(desc.guiHelpers);
-    builder.BuildUnlinkers(desc, nullptr, helpers);
-    EXPECT_EQ(store.objects.size(), 4u);
-    EXPECT_EQ(unlinker.outputGates, Strings{"new"});
-    EXPECT_EQ(unlinker.posX, 99);
 }
 
 TEST_F(TemplateBuilderTest, AnImportFindsOnlyWhatItBuildsAndCollectsIt) {

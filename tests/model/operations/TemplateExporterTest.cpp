@@ -67,29 +67,6 @@ TEST_F(TemplateExporterTest, GeometryLinksLeadTheParametersByGenerationType) {
         EXPECT_EQ(GeoParams(type, first, second, {"1", "2"}), (Words{"1", "2"})) << type;
 }
 
-TEST_F(TemplateExporterTest, CasesAndSwitchesNameOnlyWhatResolves) {
-    const std::int32_t kept = AddPhase("kept")->id;
-    Phase* removed = AddPhase("removed");
-    Case* aCase = store.NewCase();
-    aCase->name = "c";
-    aCase->phaseIds = {removed->id, kept, aCase->id};
-    aCase->posX = 4;
-    Switch* aSwitch = store.NewSwitch();
-    aSwitch->name = "s";
-    aSwitch->number = 2;
-    aSwitch->preliminaryCheck = 3;
-    aSwitch->planeType = 1;
-    aSwitch->caseIds = {aCase->id, 99};
-    aSwitch->posY = 8;
-    store.RemoveObject(removed);
-
-    const TemplateDesc desc = Export();
-    EXPECT_EQ(desc.cases, (std::vector<CaseDesc>{{"c", {"kept"}}}));
-    EXPECT_EQ(desc.switches, (std::vector<SwitchDesc>{{"s", 2, 3, 1, {"c"}}}));
-    EXPECT_EQ(desc.guiHelpers[1], (GuiHelperDesc{"c", 4, 0, "", "", 0}));
-    EXPECT_EQ(desc.guiHelpers[2], (GuiHelperDesc{"s", 0, 8, "", "", 0}));
-}
-
 TEST_F(TemplateExporterTest, ChecksOfMeasuredTypesNameThePrimaryLinkPhase) {
     const std::int32_t phase = AddPhase("p")->id;
     const auto addCheck = [&](std::int32_t type, const Words& params) {

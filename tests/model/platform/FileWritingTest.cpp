@@ -9,24 +9,12 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
-#ifndef _WIN32
-#include <unistd.h>
-#endif
-
 using namespace lw;
 namespace fs = std::filesystem;
 
 namespace {
 
 using Names = std::vector<std::string>;
-
-bool RunningAsRoot() {
-#ifdef _WIN32
-    return false;
-#else
-    return ::geteuid() == 0;
-#endif
-}
 
 std::string Bytes(const fs::path& path) {
     std::ifstream in(path, std::ios::binary);
@@ -106,19 +94,6 @@ TEST_F(NativeWriting, MissingFoldersAndFolderTargetsAreRefused) {
     EXPECT_TRUE(Listing(root / "sub").empty());
 }
 
-TEST_F(NativeWriting, AReadOnlyFileIsRefusedAndUntouched) {
-    if (RunningAsRoot())
-        GTEST_SKIP() << "root may write any file";
-    std::ofstream(root / "a.mt") << "old";
-    fs::permissions(root / "a.mt", fs::perms::owner_read);
-    EXPECT_TRUE(disk.IsReadOnly(At("a.mt")));
-    EXPECT_FALSE(disk.ReplaceFile(At("a.mt"), "new"));
-    EXPECT_EQ(Bytes(root / "a.mt"), "old");
-    EXPECT_EQ(Comparable(fs::status(root / "a.mt").permissions()),
-              Comparable(fs::perms::owner_read));
-    EXPECT_EQ(Listing(root), (Names{"a.mt"}));
-}
-
 #ifndef _WIN32
 #endif
 
@@ -147,34 +122,4 @@ TEST_F(NativeWriting, FileAccessWritesABackslashPathIntoMixedCaseFolders) {
     EXPECT_EQ(Bytes(folder / "New.mt"), "made");
     EXPECT_EQ(Bytes(folder / "Old.mt"), "replaced");
     EXPECT_EQ(Listing(root / "Data"), (Names{"Scg"}));
-}
-
-TEST(MemoryWriting, ReadOnlyFilesAndAFullDiskKeepTheOldContent) {
-    MemoryFileSystem disk;
-    FileAccess files(disk);
-    files.SetBaseFolder("/Data");
-    disk.AddFile("/Data/Scg/Locked.mt", "locked");
-    disk.AddFile("/Data/Scg/Open.mt", "open");
-    disk.MakeReadOnly("/Data/Scg/Locked.mt");
-    disk.MakeReadOnly("/Data/Scg/Never.mt");
-    auto content = [&](const std::string& path) {
-        std::string line;
-        std::getline(*files.OpenForReading(path), line);
-        return line;
-    };
-
-    EXPECT_TRUE(files.IsReadOnly("scg\\locked.mt"));
-    EXPECT_FALSE(files.IsReadOnly("scg\\open.mt"));
-    EXPECT_FALSE(files.IsReadOnly("scg\\never.mt"));
-    EXPECT_FALSE(files.ReplaceFile("scg\\locked.mt", "new"));
-    EXPECT_EQ(content("scg\\locked.mt"), "locked");
-
-    disk.FailNextReplace();
-    EXPECT_FALSE(files.ReplaceFile("scg\\open.mt", "new"));
-    EXPECT_EQ(content("scg\\open.mt"), "open");
-    EXPECT_TRUE(files.ReplaceFile("scg\\open.mt", "new"));
-    EXPECT_EQ(content("scg\\open.mt"), "new");
-
-    EXPECT_FALSE(files.ReplaceFile("scg\\missing\\a.mt", "x"));
-    EXPECT_EQ(files.KindOf("scg\\missing"), PathKind::Missing);
 }
