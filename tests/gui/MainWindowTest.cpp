@@ -301,36 +301,6 @@ private slots:
         QCOMPARE(opened[CommandId::AppAbout], QString("About Loomwright"));
     }
 
-    void theClipboardAndLinkKeys() {
-        lw::Weaver& weaver = frame->weaver();
-        Click(view, At("PlayerStart"));
-        QTest::keyClick(frame.get(), Qt::Key_Insert, Qt::ControlModifier);
-        // Ctrl+V places the copy at once where the pointer is, the menu's
-        // Paste and Shift+Insert where the next click is: the two copies lie
-        // as far apart as the two points.
-        SendMouse(view, QEvent::MouseMove, QPoint(600, 650), Qt::NoButton, Qt::NoButton);
-        QTest::keyClick(frame.get(), Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(weaver.Gesture().Number(), int(lw::InteractionState::StateIdle));
-        const int firstX = weaver.objects.back()->posX;
-        const std::size_t before = weaver.objects.size();
-        QTest::keyClick(frame.get(), Qt::Key_Insert, Qt::ShiftModifier);
-        QCOMPARE(weaver.Gesture().Number(), int(lw::InteractionState::StatePlaceTemplate));
-        QCOMPARE(view->cursor().shape(), Qt::BitmapCursor);
-        Click(view, QPoint(300, 650));
-        QVERIFY(weaver.objects.size() > before);
-        const int apart = firstX - weaver.objects.back()->posX;
-        QVERIFY(qAbs(apart - (view->WorldX(600) - view->WorldX(300))) <= 1);
-        QCOMPARE(weaver.Gesture().Number(), int(lw::InteractionState::StateIdle));
-        QCOMPARE(view->cursor().shape(), Qt::ArrowCursor);
-
-        Click(view, At("EscortLeg"));
-        QTest::keyClick(frame.get(), Qt::Key_T, Qt::ShiftModifier);
-        QCOMPARE(weaver.Gesture().Number(), int(lw::InteractionState::StatePrimaryLink));
-        QTest::keyClick(view, Qt::Key_Escape);
-        QTest::keyClick(frame.get(), Qt::Key_Delete, Qt::ShiftModifier);
-        QVERIFY(weaver.FindPhaseByName("EscortLeg") == nullptr);
-    }
-
     // At a large display scale a window of fixed size would put its status
     // bar off the screen; it fits, and opens again where it was left.
     void theWindowFitsTheScreenAndReopensWhereItWasLeft() {
@@ -343,23 +313,6 @@ private slots:
         QVERIFY(again.OnCreate(dataCopy.path().toStdString()));
         QCOMPARE(again.geometry(), left);
         QSettings(lw::kOrganizationName, lw::kApplicationName).remove("Window");
-    }
-
-    void separatorsShowAndTheContextMenuGreysWhatWouldNotRun() {
-        QMenu* viewMenu = nullptr;
-        for (QAction* title : frame->menuBar()->actions())
-            viewMenu = title->text() == "&View" ? title->menu() : viewMenu;
-        QVERIFY(viewMenu != nullptr);
-        viewMenu->popup(QPoint(0, 0));
-        QVERIFY(viewMenu->actions().first()->isSeparator());
-        QVERIFY(viewMenu->actionGeometry(viewMenu->actions().first()).height() > 0);
-        viewMenu->close();
-
-        // While a paste waits for its click, "Add Phase" would be refused.
-        frame->RunCommand(CommandId::EditPaste);
-        const QStringList texts = ContextMenuAt(QPoint(300, 300));
-        QVERIFY(texts.contains("(greyed) Add Phase"));
-        QTest::keyClick(view, Qt::Key_Escape);
     }
 
     // The hint of the chosen entry does not stay beside its dialog.

@@ -84,12 +84,6 @@ private slots:
         }
     }
 
-    void commandsOffTheToolbarHaveNoPicture() {
-        QVERIFY(ToolbarIcon(CommandId::FileSaveAs).isNull());
-        QVERIFY(ToolbarIcon(CommandId::PasteAtPointer).isNull());
-        QVERIFY(ToolbarIcon(CommandId::AddPrimaryLink).isNull());
-    }
-
     void placeCursorAimsThroughAnOpenBox() {
         const QCursor cursor = PlaceCursor();
         QCOMPARE(cursor.shape(), Qt::BitmapCursor);

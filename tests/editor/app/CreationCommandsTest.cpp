@@ -185,33 +185,6 @@ TEST_F(CreationCommandsTest, AddSwitchRefusesANumberAboveItsCases) {
     EXPECT_TRUE(HistoryEndsWith<UR_AddNewSwitchCmd>(1));
 }
 
-TEST_F(CreationCommandsTest, AddUnlinkerOffersTheSelectedPhaseAndNeedsAPhaseAndAGate) {
-    Phase* phase = PhaseAt("P", 100, 300);
-    const std::int32_t caseId = CaseAt("K", 0, 0)->id;
-    Answer(false);
-    weaver.AddUnlinker();
-    EXPECT_EQ(shown.back().preselectedPhaseId, 0);
-
-    Select(phase);
-    const auto unlink = [](std::int32_t phaseId, std::vector<std::string> gates) {
-        return [phaseId, gates](DialogCall& call) {
-            As<Unlinker>(call.object)->phaseId = phaseId;
-            As<Unlinker>(call.object)->outputGates = gates;
-        };
-    };
-    Answer(true, unlink(phase->id, {}));
-    Answer(true, unlink(caseId, {"out"}));
-    Answer(true, unlink(phase->id, {"out"}));
-    for (int i = 0; i < 3; ++i)
-        weaver.AddUnlinker();
-
-    EXPECT_EQ(shown.back().preselectedPhaseId, phase->id);
-    EXPECT_EQ(weaver.objects.size(), 3u);
-    EXPECT_NE(As<Unlinker>(weaver.objects.back().get()), nullptr);
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
-    EXPECT_TRUE(HistoryEndsWith<UR_AddNewUnlinkerCmd>(1));
-}
-
 TEST_F(CreationCommandsTest, AddCheckPrefillsByTypeAndStacksTheChecksUnderThePhase) {
     Phase* phase = PhaseAt("P", 100, 200);
     weaver.AddCheck(CheckRange);
@@ -281,34 +254,6 @@ TEST_F(CreationCommandsTest, AddRuleActionAsksForANameFreeInThePhase) {
     EXPECT_EQ(ActionsOf(*phase), (std::vector<std::string>{"Pilot.Skin at 0,0", ".Ammo at 500,90",
                                                            ".Fuel at 500,130"}));
     EXPECT_TRUE(HistoryEndsWith<UR_AddNewActionCmd>(2));
-}
-
-TEST_F(CreationCommandsTest, AddLinkRunsFromTheFirstSelectedPhaseToTheSecond) {
-    Phase* a = PhaseAt("A", 0, 0);
-    Phase* b = PhaseAt("B", 600, 0);
-    Select(b);
-    Select(a);
-    Link offered;
-    dialogs.QueueOutcome(true, [&](DialogCall& call) {
-        offered = *call.link;
-        call.link->fromGate = "out";
-        call.link->toGate = "in";
-    });
-    weaver.AddLink(true);
-    EXPECT_EQ(offered.fromPhaseId, b->id);
-    EXPECT_EQ(offered.toPhaseId, a->id);
-    EXPECT_TRUE(offered.isObjectLink);
-    ASSERT_EQ(weaver.links.size(), 1u);
-    EXPECT_EQ(weaver.links[0], (Link{true, b->id, "out", a->id, "in"}));
-    EXPECT_FALSE(b->outputs[0].openMark);
-    EXPECT_TRUE(HistoryEndsWith<UR_AddNewLinkCmd>(1));
-
-    weaver.AddLink(false); // cancelled
-    Select(CaseAt("K", 0, 400));
-    weaver.AddLink(false); // three selected
-    EXPECT_EQ(dialogs.Log().size(), 2u);
-    EXPECT_EQ(weaver.links.size(), 1u);
-    EXPECT_EQ(Commands(), 1u);
 }
 
 TEST_F(CreationCommandsTest, OnlyEditsThatPassTheLaunchersChecksBecomeCommands) {

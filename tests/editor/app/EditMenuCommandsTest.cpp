@@ -37,20 +37,6 @@ TEST_F(EditMenuCommandsTest, CutDeletesTheSelectionEvenWhenTheClipboardCannotBeW
     EXPECT_EQ(weaver.objects.size(), objects);
 }
 
-TEST_F(EditMenuCommandsTest, SaveSelectionAndImportGoThroughTheFileDialogs) {
-    e.Select("ReturnHome");
-    dialogs.answers = {kData + "/scg/picked.mt", kData + "/scg/picked.mt"};
-    edit.SaveSelection();
-    ASSERT_EQ(dialogs.requests.size(), 1u);
-    EXPECT_EQ(dialogs.requests[0].fileName, "selection.mt");
-    EXPECT_NE(e.DataFileText("scg\\picked.mt").find("ReturnHome"), std::string::npos);
-
-    edit.ImportFromFile();
-    EXPECT_EQ(weaver.pendingImportPath, "scg\\picked.mt");
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StatePlaceTemplate);
-    EXPECT_EQ(weaver.selection.members.size(), 1u);
-}
-
 TEST_F(EditMenuCommandsTest, ReloadAsksAndSavesFirst) {
     e.prompts.QueueAnswer(Answer::No);
     edit.ReloadBlocks();

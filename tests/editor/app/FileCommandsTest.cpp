@@ -155,20 +155,3 @@ TEST_F(FileCommandsTest, NewAsksAboutChangesAndHonoursEachAnswer) {
     commands.New();
     EXPECT_EQ(prompts.Log().size(), 4u);
 }
-
-TEST_F(FileCommandsTest, TheCloseQuestionHasItsOwnWording) {
-    StartUp();
-    EXPECT_TRUE(commands.ConfirmClose());
-    EXPECT_TRUE(prompts.Log().empty());
-
-    LoadChanged();
-    prompts.QueueAnswer(Answer::Cancel);
-    EXPECT_FALSE(commands.ConfirmClose());
-    EXPECT_EQ(prompts.Log()[0].text,
-              "Template file has been changed, do you want to save your changes?");
-    prompts.QueueAnswer(Answer::No);
-    EXPECT_TRUE(commands.ConfirmClose());
-    prompts.QueueAnswer(Answer::Yes);
-    EXPECT_TRUE(commands.ConfirmClose());
-    EXPECT_FALSE(weaver.undoManager.changed);
-}

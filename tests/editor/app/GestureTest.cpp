@@ -41,16 +41,6 @@ protected:
 
 } // namespace
 
-TEST_F(GestureTest, AClickOrADragBackToItsStartSelectsButRecordsNoMove) {
-    Phase* a = PhaseAt("A", 0, 0);
-    ClickAt(50, 50);
-    EXPECT_EQ(Selected(), Members{a});
-    DragThrough(50, 50, {{80, 90}, {50, 50}});
-    EXPECT_EQ(At(a), (Point{0, 0}));
-    EXPECT_EQ(Commands(), 0u);
-    EXPECT_FALSE(weaver.undoManager.changed);
-}
-
 TEST_F(GestureTest, APressOnASelectedObjectDragsTheWholeSelectionHiddenMembersToo) {
     Phase* a = PhaseAt("A", 0, 0);
     Phase* c = PhaseAt("C", 500, 0);
@@ -92,28 +82,6 @@ TEST_F(GestureTest, CtrlClickTogglesOnTheReleaseAndAShiftClickNeitherSelectsNorP
     ClickAt(500, 75);
     EXPECT_TRUE(Selected().empty());
     EXPECT_EQ(weaver.selectedLink.fromPhaseId, a->id);
-}
-
-TEST_F(GestureTest, LinkAndTemplateStatesTakeOnlyAnExactClick) {
-    Phase* source = PhaseAt("S", 0, 0);
-    PhaseAt("T", 400, 0);
-    Select(source);
-    weaver.StartGeometryLink(true);
-    input.LeftDown(450, 50, kLeftButton);
-    input.LeftUp(451, 50, 0);
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StatePrimaryLink);
-    EXPECT_EQ(source->primaryLinkId, 0);
-
-    weaver.EscapeKey();
-    weaver.WaitToPlaceTemplate("scg\\missing.mt");
-    input.LeftDown(100, 100, kLeftButton);
-    input.LeftUp(101, 100, 0);
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StatePlaceTemplate);
-    EXPECT_TRUE(e.prompts.Log().empty());
-    ClickAt(100, 100);
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
-    EXPECT_EQ(e.prompts.MessageTexts(), std::vector<std::string>{"Can't open template file!"});
-    EXPECT_EQ(Commands(), 0u);
 }
 
 // A link from A through B to C, and A's primary geometry line to T, which
@@ -258,27 +226,6 @@ TEST_F(GestureTest, EscapeEndsPlacingsLinkGesturesAndDragsButNotBands) {
     input.Key(CanvasKey::Escape);
     EXPECT_EQ(weaver.interactionState(), InteractionState::StateRubberBand);
     EXPECT_TRUE(weaver.bandActive);
-}
-
-TEST_F(GestureTest, AWheelStepDuringABandMovesItsCornerToTheScreenPoint) {
-    input.LeftDown(10, 10, kLeftButton);
-    input.Move(50, 50, kLeftButton);
-    EXPECT_EQ(weaver.bandRect, (ScreenRect{10, 10, 50, 50}));
-    input.Wheel(300, 200, 120, ScreenRect{100, 100, 900, 700});
-    // The anchor (10, 10) in the new view (-28, -19) at 1.1.
-    EXPECT_EQ(weaver.bandRect, (ScreenRect{-19, -9, 300, 200}));
-    EXPECT_EQ(weaver.previousBandRect, (ScreenRect{10, 10, 50, 50}));
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StateRubberBand);
-
-    // A wheel event with no vertical step (a sideways scroll) is no zoom at
-    // all: it must not move the view, swap the font or jump the band.
-    const CanvasView before = e.view;
-    const int repaints = e.host.repaints;
-    input.Wheel(600, 400, 0, ScreenRect{100, 100, 900, 700});
-    EXPECT_EQ(e.view.viewX, before.viewX);
-    EXPECT_EQ(e.view.font, before.font);
-    EXPECT_EQ(weaver.bandRect, (ScreenRect{-19, -9, 300, 200}));
-    EXPECT_EQ(e.host.repaints, repaints);
 }
 
 // S, a fractal phase, already leads its secondary link to X; Y overlaps X and

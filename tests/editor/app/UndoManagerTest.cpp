@@ -72,13 +72,6 @@ TEST_F(UndoManagerTest, ANullPushMarksTheDocumentAndKeepsTheRedoStack) {
     EXPECT_EQ(host.titles, std::vector<std::string>{"Loomwright - scg\\a.mt*"});
 }
 
-TEST_F(UndoManagerTest, TitleShowsTheFileAndTheChangedMark) {
-    EXPECT_EQ(weaver.Title(), "Loomwright - untitled");
-    weaver.fileName = "scg\\x.mt";
-    history.changed = true;
-    EXPECT_EQ(weaver.Title(), "Loomwright - scg\\x.mt*");
-}
-
 TEST_F(UndoManagerTest, UndoAndRedoMoveTheNewestAcross) {
     for (int i = 1; i <= 100; ++i)
         history.Push(Command(i));

@@ -80,27 +80,6 @@ TEST_F(ActionModelDialogsTest, MakeItListFollowsTheTypeText) {
     EXPECT_EQ(career.back(), "$plane_5_model");
 }
 
-TEST_F(ActionModelDialogsTest, StoredMakeItComesBackOnlyWhereTheNewListHoldsIt) {
-    ActionModelPropertiesDlg dlg(
-        e.weaver.modelList, MakeAction({{"set_model", {"fighter", "foe:fighter:corvane_e"}, ""}}));
-    EXPECT_EQ(dlg.typeCombo.Text(), "fighter");
-    EXPECT_EQ(dlg.makeItCombo.Text(), "foe:fighter:corvane_e");
-
-    dlg.makeItCombo.SelectByText("server decides");
-    dlg.typeCombo.SelectByText("recon");
-    dlg.OnTypeChanged();
-    EXPECT_EQ(dlg.makeItCombo.Current(), -1) << "the user's choice goes with the old list";
-    dlg.typeCombo.SelectByText("fighter");
-    dlg.OnTypeChanged();
-    EXPECT_EQ(dlg.makeItCombo.Text(), "foe:fighter:corvane_e");
-
-    // Only a rule of exactly two parameters offers its second.
-    ActionModelPropertiesDlg three(e.weaver.modelList,
-                                   MakeAction({{"set_model", {"gun", "server decides", "x"}, ""}}));
-    EXPECT_EQ(three.typeCombo.Text(), "gun");
-    EXPECT_EQ(three.makeItCombo.Current(), -1);
-}
-
 TEST_F(ActionModelDialogsTest, ModelOkChecksInOrderThenWritesOneRuleOfTwoParams) {
     Action& action =
         MakeAction({{"set_model", {"glider", "random enemy"}, "cond"}, {"second", {"a"}, ""}});

@@ -67,20 +67,6 @@ protected:
     ScriptedSubDialogs sub;
 };
 
-TEST_F(PhaseDialogTest, APhaseWithBlocksOrAFolderKeepsThemLocked) {
-    CPhasePropertiesDlg waypoint(e.weaver, Named("WaypointNorth"));
-    EXPECT_EQ(waypoint.mainBlockCombo.Text(), kPatrol);
-    EXPECT_EQ(waypoint.additionalList.Texts(), (Texts{kPatrolHigh, kPatrolLow}));
-    EXPECT_EQ(waypoint.inputList.Count(), 3);
-    EXPECT_FALSE(waypoint.mainBlockCombo.enabled || waypoint.radiosEnabled);
-    EXPECT_EQ(waypoint.allocationCombo.Text(), "in_2") << "chosen among the waypoint gates";
-
-    CPhasePropertiesDlg positions(e.weaver, Named("AAPositions"));
-    EXPECT_TRUE(positions.folderChecked && positions.folderCombo.shown);
-    EXPECT_EQ(positions.folderCombo.Text(), "scg\\0\\blocks\\ground");
-    EXPECT_FALSE(positions.folderCombo.enabled || positions.addBlocksEnabled);
-}
-
 TEST_F(PhaseDialogTest, OkChecksRunInOrderAndWriteNothingWhenOneFails) {
     Phase& phase = *e.weaver.NewPhase();
     const std::string stored = phase.name;
@@ -198,23 +184,6 @@ TEST_F(PhaseDialogTest, GatesAndPropertiesComeFromTheMainBlockAlone) {
     EXPECT_TRUE(recon.inputs[0].openMark);
 }
 
-TEST_F(PhaseDialogTest, AdditionalKeysCountOnPastZAndKeepDuplicates) {
-    EXPECT_EQ(CPhasePropertiesDlg::AdditionalBlockKey("scg\\0\\a.b\\bridge", 0), "bridge_a");
-    EXPECT_EQ(CPhasePropertiesDlg::AdditionalBlockKey("x/ferry.crossing.group", 1),
-              "ferry.crossing_b");
-
-    Phase& phase = Named("WaypointNorth");
-    CPhasePropertiesDlg dialog(e.weaver, phase);
-    dialog.OnDeleteAll();
-    for (int i = 0; i < 27; ++i)
-        dialog.additionalList.Add(kPatrolHigh);
-    ASSERT_TRUE(dialog.Ok(e.prompts));
-    EXPECT_EQ(phase.blocks.size(), 28u);
-    EXPECT_EQ(phase.blocks.count("patrol_high_a"), 1u);
-    EXPECT_EQ(phase.blocks.count("patrol_high_z"), 1u);
-    EXPECT_EQ(phase.blocks.count("patrol_high_{"), 1u);
-}
-
 TEST_F(PhaseDialogTest, AllocationFollowsTheGenerationType) {
     Phase& phase = *e.weaver.NewPhase();
     CPhasePropertiesDlg dialog(e.weaver, phase);
@@ -267,41 +236,6 @@ TEST_F(PhaseDialogTest, AddBlocksAndTheDeleteButtonsEditTheAdditionalList) {
     dialog.additionalList.Add(kPatrol);
     dialog.OnDeleteAll();
     EXPECT_EQ(dialog.additionalList.Count(), 0);
-}
-
-TEST_F(PhaseDialogTest, FolderAndRadioChoicesWriteAtOnceAndCancelKeepsThem) {
-    Phase& phase = *e.weaver.NewPhase();
-    {
-        CPhasePropertiesDlg dialog(e.weaver, phase);
-        dialog.OnFolderRadio();
-        EXPECT_TRUE(dialog.folderCombo.shown && !dialog.mainBlockCombo.shown);
-        EXPECT_FALSE(dialog.additionalList.enabled || dialog.deleteSelectedEnabled);
-        dialog.folderCombo.SelectByText("scg\\0\\blocks\\ground");
-        dialog.OnFolderChanged();
-        EXPECT_EQ(dialog.mainBlockCombo.Text(), "scg\\0\\blocks\\ground\\aa_battery.group");
-        EXPECT_EQ(dialog.inputList.Count(), 3);
-        EXPECT_FALSE(dialog.addBlocksEnabled);
-    } // cancelled
-    EXPECT_EQ(phase.blocksFolder, "scg\\0\\blocks\\ground");
-    EXPECT_TRUE(phase.blocks.empty());
-
-    Phase& other = *e.weaver.NewPhase();
-    CPhasePropertiesDlg dialog(e.weaver, other);
-    dialog.OnFolderRadio();
-    dialog.folderCombo.SetCurrent(0);
-    dialog.OnFolderChanged();
-    EXPECT_TRUE(dialog.radiosEnabled) << "the radios lock only when the dialog opens";
-    dialog.OnMainBlockRadio();
-    EXPECT_TRUE(other.blocksFolder.empty());
-    EXPECT_TRUE(dialog.mainBlockCombo.shown && dialog.mainBlockCombo.enabled);
-    EXPECT_EQ(dialog.mainBlockCombo.Current(), -1);
-
-    dialog.OnFolderRadio();
-    dialog.folderCombo.SelectByText("scg\\0\\blocks\\naval");
-    dialog.OnFolderChanged();
-    ASSERT_TRUE(dialog.Ok(e.prompts));
-    EXPECT_EQ(other.blocks, (Blocks{{"main", "scg\\0\\blocks\\naval\\barge_group.group"}}));
-    EXPECT_EQ(other.blocksFolder, "scg\\0\\blocks\\naval");
 }
 
 } // namespace

@@ -70,31 +70,6 @@ TEST_F(CheckDialogsTest, SquadOkChecksInOrderThenWritesBeforeTheRangeCheck) {
     EXPECT_EQ(check.params, (Texts{"1000001", "20.07.1917"}));
 }
 
-TEST_F(CheckDialogsTest, SquadOneIsAcceptedByOkButNotAValidResult) {
-    Check& check = NewCheck({});
-    CheckSquadPropertiesDlg dlg(e.weaver, check);
-    // An empty check opens on the player's squad and the server's date.
-    EXPECT_TRUE(dlg.usePlayerSquad && dlg.useServerDate);
-    EXPECT_FALSE(dlg.squadId.enabled || dlg.dateShown);
-    EXPECT_EQ(dlg.date, kDefaultCalendarDate);
-    dlg.usePlayerSquad = false;
-    dlg.squadId.text = "1";
-    ASSERT_TRUE(dlg.Ok(e.prompts));
-    EXPECT_EQ(check.params, (Texts{"1", "$date"}));
-    EXPECT_FALSE(dlg.IsResultValid());
-
-    const std::vector<std::pair<Texts, bool>> results = {{{"2", "$date"}, true},
-                                                         {{"$playersquad", "20.07.1917"}, true},
-                                                         {{"$playersquad", "soon"}, false},
-                                                         {{"$playersquad"}, false},
-                                                         {{"2", "$date", "x"}, false},
-                                                         {{"0", "$date"}, false}};
-    for (const auto& [params, valid] : results) {
-        check.params = params;
-        EXPECT_EQ(dlg.IsResultValid(), valid) << params[0];
-    }
-}
-
 TEST_F(CheckDialogsTest, LocationTypeOkChecksInOrder) {
     Check& check = NewCheck({});
     CheckLocationTypePropertiesDlg dlg(e.weaver, check);
@@ -126,20 +101,6 @@ TEST_F(CheckDialogsTest, LocationTypeHiddenBoxesAreTickedAndWritten) {
     Check& placeholder = NewCheck({"Airfield", "Check5"});
     CheckLocationTypePropertiesDlg fresh(e.weaver, placeholder);
     EXPECT_TRUE(fresh.boxes[4].ticked);
-}
-
-TEST_F(CheckDialogsTest, LocationTypeResultValidity) {
-    Check& check = NewCheck({});
-    CheckLocationTypePropertiesDlg dlg(e.weaver, check);
-    const std::vector<std::pair<Texts, bool>> results = {{{}, false},
-                                                         {{"Airfield"}, true},
-                                                         {{"Navigation"}, false},
-                                                         {{"Navigation", "River"}, true},
-                                                         {{"Harbour", "Port"}, false}};
-    for (const auto& [params, valid] : results) {
-        check.params = params;
-        EXPECT_EQ(dlg.IsResultValid(), valid) << params.size();
-    }
 }
 
 // A refused range is written all the same; text that is no number writes the

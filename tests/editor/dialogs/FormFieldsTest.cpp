@@ -36,18 +36,6 @@ TEST(ComboFieldTest, SelectingByTextTakesTheFirstEntryThatBeginsWithIt) {
     EXPECT_EQ(combo.Text(), "phase_1");
 }
 
-TEST(ComboFieldTest, TheSelectionStaysOnItsEntryWhenOthersComeAndGo) {
-    ComboField combo(true);
-    combo.Add("m");
-    combo.SetCurrent(0);
-    combo.Add("a");
-    EXPECT_EQ(combo.Text(), "m");
-    combo.Remove(0);
-    EXPECT_EQ(combo.Text(), "m");
-    combo.Remove(0);
-    EXPECT_EQ(combo.Current(), -1);
-}
-
 TEST(NumberFieldTest, OnlyWholeNumbersInRangePass) {
     RecordingPrompts prompts;
     NumberField field;

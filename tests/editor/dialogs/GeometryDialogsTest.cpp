@@ -64,31 +64,5 @@ TEST(GeometryDialogsTest, TextThatIsNoNumberKeepsTheDialogOpen) {
     EXPECT_EQ(prompts.MessageTexts().size(), 3u);
 }
 
-TEST(GeometryDialogsTest, FractalAndLineAspectCodesBothWays) {
-    RecordingPrompts prompts;
-    const std::vector<std::pair<std::string, Shown>> codes = {{"-1", {"Random", "-1"}},
-                                                              {"0", {"Default", "0"}},
-                                                              {"-2", {"Custom", "-2"}},
-                                                              {"9", {"Custom", "9"}}};
-    for (const auto& [code, shown] : codes) {
-        LineAdditionalDlg line(code, "100", "-4");
-        EXPECT_EQ(Aspect(line), shown) << code;
-        EXPECT_EQ(line.aspectValue.enabled, shown.first == "Custom");
-        ASSERT_TRUE(line.Ok(prompts));
-        EXPECT_EQ(Params(line), (Texts{code, "100", "-4"}));
-        EXPECT_EQ(Aspect(CFractalAdditionalDlg(code, "", "")), shown);
-    }
-
-    // A custom aspect of 0 is stored as the code of "Default".
-    LineAdditionalDlg line("4", "", "");
-    line.aspectValue.text = "0";
-    ASSERT_TRUE(line.Ok(prompts));
-    EXPECT_EQ(Aspect(LineAdditionalDlg(line.param1, "", "")), (Shown{"Default", "0"}));
-
-    line.aspectCombo.SetCurrent(2);
-    line.OnAspectChanged();
-    EXPECT_EQ(Aspect(line), (Shown{"Random", "0"}));
-}
-
 } // namespace
 } // namespace lw

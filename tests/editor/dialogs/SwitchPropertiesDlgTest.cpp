@@ -101,22 +101,5 @@ TEST_F(SwitchPropertiesDlgTest, OkWritesTheFieldsAndTheCasesInNameOrder) {
     EXPECT_EQ(fresh.caseIds, (Ids{CaseId("Alpha"), CaseId("zulu")}));
 }
 
-TEST_F(SwitchPropertiesDlgTest, WithoutAPreliminaryCheckThePlaneTypeIsKeptAndLocked) {
-    Switch& water = Named("SwitchWater");
-    SwitchPropertiesDlg dlg(e.weaver, water, {});
-    EXPECT_TRUE(dlg.planeTypeEnabled);
-    dlg.preliminaryCombo.SetCurrent(0);
-    dlg.OnPreliminaryChanged();
-    EXPECT_FALSE(dlg.planeTypeEnabled);
-    ASSERT_TRUE(dlg.Ok(e.prompts));
-    EXPECT_EQ(water.preliminaryCheck, 0);
-    EXPECT_EQ(water.planeType, 2);
-
-    water.preliminaryCheck = 8;
-    SwitchPropertiesDlg odd(e.weaver, water, {});
-    EXPECT_EQ(odd.preliminaryCombo.Current(), -1);
-    EXPECT_TRUE(odd.planeTypeEnabled) << "no selection counts as a check";
-}
-
 } // namespace
 } // namespace lw

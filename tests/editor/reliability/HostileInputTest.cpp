@@ -106,23 +106,6 @@ TEST_F(HostileInputTest, AnUnreadableTemplateIsRefusedAfterTheChangesWereSaved) 
     EXPECT_TRUE(editor.weaver.fileName.empty());
 }
 
-TEST(HostileDiskTest, AFolderIsNoTemplateOnTheRealDisk) {
-    test::ScratchFolder scratch;
-    fs::create_directories(scratch.root / "scg" / "folder.mt");
-    NativeFileSystem disk;
-    MemoryOptionsStore store;
-    RecordingPrompts prompts;
-    Weaver weaver{prompts, store, disk};
-    weaver.StartUp(scratch.root.generic_u8string());
-
-    EXPECT_FALSE(weaver.LoadTemplateFile("scg\\folder.mt"));
-    EXPECT_FALSE(weaver.LoadTemplateFile(scratch.At("scg")));
-    EXPECT_EQ(prompts.MessageTexts(),
-              (Names{"Can't open template file!", "Can't open template file!"}));
-    EXPECT_TRUE(fs::is_directory(scratch.root / "scg" / "folder.mt"));
-    EXPECT_TRUE(weaver.fileName.empty());
-}
-
 TEST(HostileDiskTest, ABlockFolderThatLinksToItselfIsScannedOnce) {
     test::ScratchFolder scratch;
     const fs::path blocks = scratch.root / "scg" / "0" / "blocks";
@@ -147,18 +130,4 @@ TEST(HostileDiskTest, ABlockFolderThatLinksToItselfIsScannedOnce) {
         references.push_back(block.first);
     EXPECT_EQ(references, (Names{"scg\\0\\blocks\\a.group", "scg\\0\\blocks\\sub\\b.group"}));
     EXPECT_TRUE(prompts.Log().empty());
-}
-
-TEST_F(HostileInputTest, AMillionGatesAreAllRead) {
-    std::string block = "MCU_H_Input\r\n{\r\n";
-    for (std::size_t gate = 0; gate < kMillion; ++gate)
-        block += "  Name = \"g" + std::to_string(gate) + "\";\r\n";
-    AddBlockFile("million.group", block + "}\r\n");
-    OpenTemplate(PhaseLines("Crowd", "scg\\0\\blocks\\air\\million.group"));
-
-    const Phase* phase = editor.weaver.FindPhaseByName("Crowd");
-    ASSERT_NE(phase, nullptr);
-    ASSERT_EQ(phase->inputs.size(), kMillion);
-    EXPECT_EQ(phase->inputs.back().name, "g999999");
-    EXPECT_TRUE(editor.prompts.Log().empty());
 }

@@ -18,32 +18,6 @@ protected:
 
 } // namespace
 
-TEST_F(AddCommandsTest, APlacedPhaseComesBackWithItsActionsAtTheEnd) {
-    Action* first = AddAction(weaver, *phase, "Plane");
-    first->posX = 40;
-    Action* second = AddAction(weaver, *phase, "Ship");
-    Case* later = weaver.NewCase();
-    UR_AddNewPhaseCmd command(&weaver, *phase);
-    command.AddAction(*first);
-    command.AddAction(*second);
-    const std::string placed = Describe(weaver);
-
-    // A destroyed object leaves the selection, which shrinks to what is left.
-    weaver.selection.Add(phase);
-    weaver.selection.Add(later);
-    command.Undo();
-    EXPECT_EQ(ObjectOrder(weaver), Ids{4});
-    EXPECT_EQ(weaver.selection.members, std::vector<EditorObject*>{later});
-    EXPECT_EQ(weaver.selection.bounds, later->GetScreenRect(0, 0, 1.0f));
-
-    command.Redo();
-    EXPECT_EQ(ObjectOrder(weaver), (Ids{4, 1, 2, 3}));
-    EXPECT_EQ(Describe(weaver), placed);
-    EXPECT_EQ(weaver.nextId, 5);
-    command.Undo();
-    EXPECT_EQ(ObjectOrder(weaver), Ids{4});
-}
-
 TEST_F(AddCommandsTest, ObjectsLeaveAndReenterWhatPointsBackAtThem) {
     Check* check = AddCheck(weaver, *phase, CheckRange);
     AddCheck(weaver, *phase, CheckFree);

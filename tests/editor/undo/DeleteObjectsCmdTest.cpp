@@ -147,15 +147,6 @@ protected:
     }
 };
 
-TEST_F(DeleteSwitchTest, ASwitchAloneComesBackWithoutItsCasesPointingAtIt) {
-    UR_Command* command = Delete({1});
-    EXPECT_EQ(Get<Case>(2).switchId, 0);
-    command->Undo();
-    EXPECT_EQ(Get<Switch>(1).caseIds, (Ids{2, 3}));
-    EXPECT_EQ(Get<Case>(2).switchId, 0);
-    EXPECT_EQ(Get<Case>(3).switchId, 0);
-}
-
 TEST_F(DeleteSwitchTest, ACaseDeletedWithItsSwitchReentersItInEitherOrder) {
     for (const Ids& order : {Ids{1, 2}, Ids{2, 1}}) {
         UR_Command* command = Delete(order);

@@ -49,16 +49,6 @@ TEST(ReadGroupStream, StoresDynamicsAtTheirCloseWithTheLaterSectionWinning) {
     EXPECT_EQ(info.dynamics, (Dynamics{{"", {"orphan"}}, {"plane", {"Country"}}, {"ship", {}}}));
 }
 
-TEST(ReadGroupStream, ANestedCloseEndsTheSection) {
-    const BlockInfo info = Read("MCU_H_Input\n{\n Name = a;\n Extra\n {\n }\n Name = b;\n}\n");
-    EXPECT_EQ(info.inputs, Strings{"a"});
-}
-
-TEST(ReadGroupStream, AnUnclosedSectionEndsWithTheFile) {
-    EXPECT_EQ(Read("MCU_H_Output\n{\n Name = last;").outputs, Strings{"last"});
-    EXPECT_TRUE(Read("MCU_H_Dynamic\n{\n Name = p;\n Property = q;\n").dynamics.empty());
-}
-
 TEST(ReadGroupStream, AcceptsCrLfAndLongLines) {
     const std::string longName(20000, 'x');
     const BlockInfo info =

@@ -36,16 +36,6 @@ TEST(ParserUtilsWords, QuotedTextIsOneWord) {
     EXPECT_EQ(pos, 5u);
 }
 
-TEST(ParserUtilsWords, GetNextWordStopsBeforeBracketAndSkipsNothing) {
-    const std::string line = "name(a,b)";
-    std::size_t pos = 0;
-    EXPECT_EQ(ParserUtils::getNextWord(line, pos), "name");
-    EXPECT_EQ(pos, 4u);
-    std::size_t blank = 0;
-    EXPECT_EQ(ParserUtils::getNextWord(" x", blank), "");
-    EXPECT_EQ(blank, 0u);
-}
-
 TEST(ParserUtilsEmbraced, ReadsUpToClosingAndTakesRestWhenUnterminated) {
     std::size_t pos = 5;
     EXPECT_EQ(ParserUtils::getNextEmbracedWord("Name [a b] x", pos, ']'), "a b");
@@ -53,14 +43,6 @@ TEST(ParserUtilsEmbraced, ReadsUpToClosingAndTakesRestWhenUnterminated) {
     pos = 0;
     EXPECT_EQ(ParserUtils::getNextEmbracedWord("\"abc", pos, '"'), "abc");
     EXPECT_EQ(pos, 4u);
-}
-
-TEST(ParserUtilsBrackets, EmptyEntriesAndEmptyPairs) {
-    EXPECT_EQ(Params("(,name)"), (Strings{"", "name"}));
-    EXPECT_EQ(Params("( )"), Strings{});
-    EXPECT_EQ(Params("()"), Strings{});
-    EXPECT_EQ(Params("(a,)"), (Strings{"a", ""}));
-    EXPECT_EQ(Params("r( a b , c )"), (Strings{"a b", "c"}));
 }
 
 TEST(ParserUtilsBrackets, SearchesForwardAndMovesBehindClosingBracket) {

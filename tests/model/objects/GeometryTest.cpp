@@ -52,16 +52,6 @@ TEST(ScreenRectTest, ScaledEdgesTruncateTowardZero) {
     EXPECT_EQ(shifted->GetScreenRect(-161, 0, 0.5f), Rect(-50, -20, -10, 20));
 }
 
-TEST(ScreenRectTest, PhaseSizeDependsOnTheScaleAlone) {
-    // The corner is truncated first and the size added to it, so two phases
-    // whose corners round differently keep one size in pixels.
-    const auto a = Placed<Phase>(3, 3);
-    const auto b = Placed<Phase>(-3, -3);
-    EXPECT_EQ(a->GetScreenRect(0, 0, 0.5f), Rect(1, 1, 101, 76));
-    EXPECT_EQ(b->GetScreenRect(0, 0, 0.5f), Rect(-1, -1, 99, 74));
-    EXPECT_EQ(Placed<Phase>(10, 10)->GetScreenRect(-20, 0, 1.5f), Rect(-15, 15, 285, 240));
-}
-
 TEST(PhaseGatesTest, GatesSpreadOverTheHeightInIntegerSteps) {
     EXPECT_EQ(PhaseWithInputs(1)->GateScreenPoint("in0", true, 1.0f, 0, 0).y, 75);
     const auto two = PhaseWithInputs(2);

@@ -59,19 +59,6 @@ TEST(ObjectStoreTest, LookupsFindTheFirstInListOrderAlsoAfterARestore) {
     EXPECT_EQ(store.nextId, 3);
 }
 
-TEST(ObjectStoreTest, ARestrictingListLimitsTheSearch) {
-    ObjectStore store;
-    Case* outside = store.NewCase();
-    outside->name = "c";
-    Case* inside = store.NewCase();
-    inside->name = "other";
-    ObjectList list{inside};
-    EXPECT_EQ(store.FindCaseByName("c", &list), nullptr);
-    EXPECT_EQ(store.FindCaseByName("other", &list), inside);
-    const ObjectList empty;
-    EXPECT_EQ(store.FindCaseByName("other", &empty), nullptr);
-}
-
 TEST(ObjectStoreTest, ActionsAreFoundByTheirNamesAndTheirPhasesName) {
     ObjectStore store;
     Phase* phase = store.NewPhase();

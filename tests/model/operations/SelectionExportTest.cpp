@@ -65,14 +65,6 @@ TEST_F(SelectionExportTest, LinksAndMembersSurviveOnlyBetweenSelectedObjects) {
     EXPECT_EQ(desc.cases[0].phaseNames, std::vector<std::string>{"Contact"});
 }
 
-TEST_F(SelectionExportTest, ACaseAloneKeepsNoPhases) {
-    e.Select("CaseContact");
-    const TemplateDesc desc = Export();
-    ASSERT_EQ(desc.cases.size(), 1u);
-    EXPECT_TRUE(desc.cases[0].phaseNames.empty());
-    EXPECT_TRUE(desc.phases.empty());
-}
-
 TEST_F(SelectionExportTest, AnUnlinkerGoesOnceWithItsPhaseAndNeverAlone) {
     Phase* contact = e.weaver.FindPhaseByName("Contact");
     Unlinker* unlinker = e.weaver.NewUnlinker();

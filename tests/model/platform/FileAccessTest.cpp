@@ -34,11 +34,6 @@ protected:
 
 } // namespace
 
-TEST_F(FileAccessTest, BackslashPathsResolveAgainstTheBaseFolder) {
-    EXPECT_EQ(files.Resolve("scg\\Loomwright.ini"), "/home/Me/data/scg/Loomwright.ini");
-    EXPECT_EQ(Content(files, "scg\\Loomwright.ini"), "ini");
-}
-
 TEST_F(FileAccessTest, LowerCasedNamesFindMixedCaseEntries) {
     EXPECT_EQ(files.Resolve("scg\\0\\blocks\\air\\patrol.group"),
               "/home/Me/data/scg/0/Blocks/Air/Patrol.Group");
@@ -56,11 +51,6 @@ TEST_F(FileAccessTest, MissingNamesStayAsMappedAndDoNotOpen) {
     EXPECT_EQ(files.Resolve("scg\\nothing\\x.mt"), "/home/Me/data/scg/nothing/x.mt");
     EXPECT_EQ(Content(files, "scg\\nothing\\x.mt"), "<none>");
     EXPECT_EQ(files.KindOf("scg\\nothing"), PathKind::Missing);
-}
-
-TEST_F(FileAccessTest, AbsolutePathsIgnoreTheBaseFolder) {
-    EXPECT_EQ(Content(files, "/elsewhere/a.mt"), "absolute");
-    EXPECT_EQ(Content(files, "/ELSEWHERE/A.MT"), "absolute");
 }
 
 TEST_F(FileAccessTest, FoldersAreNotOpenedAsFilesAndUnreadableFilesFail) {
