@@ -43,7 +43,7 @@ using EnableRulesTest = ContextMenuTest;
 } // namespace
 
 TEST_F(ContextMenuTest, TheGenerationTypeDecidesWhichGeometryLinksCanBeDrawn) {
-    Phase* phase = PhaseAt("A", 0, 0);
+    Phase* phase = PhaseAt(weaver, "A", 0, 0);
     Select(phase);
     for (std::int32_t type = 0; type < kGenerationTypeCount; ++type) {
         phase->generationType = type;
@@ -69,8 +69,8 @@ TEST_F(ContextMenuTest, TheGenerationTypeDecidesWhichGeometryLinksCanBeDrawn) {
 // Each entry makes the link it names, in the direction it names: a designer
 // who chose "from Bravo to Alpha" must not get a link the other way.
 TEST_F(ContextMenuTest, TwoPhasesGetFourLinkEntriesThatEachDoWhatTheyName) {
-    Phase* a = PhaseAt("Alpha", 0, 0);
-    Phase* b = PhaseAt("Bravo", 400, 0);
+    Phase* a = PhaseAt(weaver, "Alpha", 0, 0);
+    Phase* b = PhaseAt(weaver, "Bravo", 400, 0);
     Select(a);
     Select(b);
     const ContextMenu menu = weaver.BuildContextMenu();
@@ -105,7 +105,7 @@ TEST_F(ContextMenuTest, TwoPhasesGetFourLinkEntriesThatEachDoWhatTheyName) {
 
 TEST_F(EnableRulesTest, SaveNeedsAChangeAndCutAndCopyNeedASelection) {
     weaver.fileName = "scg\\mine.mt";
-    Phase* phase = PhaseAt("A", 0, 0);
+    Phase* phase = PhaseAt(weaver, "A", 0, 0);
     EXPECT_FALSE(commands.IsEnabled(CommandId::FileSave));
     EXPECT_FALSE(commands.Run(CommandId::EditCut));
     EXPECT_FALSE(commands.Run(CommandId::EditCopy));

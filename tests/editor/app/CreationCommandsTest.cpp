@@ -66,7 +66,7 @@ protected:
 } // namespace
 
 TEST_F(CreationCommandsTest, AddPhaseKeepsItsPhaseOnlyWithAFreeNameAndABlock) {
-    PhaseAt("Taken", 0, 0);
+    PhaseAt(weaver, "Taken", 0, 0);
     std::string offered;
     Answer(false, [&](DialogCall& call) { offered = As<Phase>(call.object)->name; });
     Answer(true, NamedWithBlock("Taken"));
@@ -122,12 +122,12 @@ TEST_F(CreationCommandsTest, TheReleasePlacesThePhaseWithAnActionForEachBlockPro
 }
 
 TEST_F(CreationCommandsTest, AddCaseOffersTheSelectedPhasesWithoutACaseAndIsPlacedByARelease) {
-    Phase* free1 = PhaseAt("P1", 0, 0);
-    Phase* inCase = PhaseAt("P2", 300, 0);
-    Phase* free2 = PhaseAt("P3", 600, 0);
-    inCase->caseId = CaseAt("Old", 0, 400)->id;
+    Phase* free1 = PhaseAt(weaver, "P1", 0, 0);
+    Phase* inCase = PhaseAt(weaver, "P2", 300, 0);
+    Phase* free2 = PhaseAt(weaver, "P3", 600, 0);
+    inCase->caseId = CaseAt(weaver, "Old", 0, 400)->id;
     Select(free1);
-    Select(CheckOf(*free1, CheckSquad));
+    Select(CheckOf(weaver, *free1, CheckSquad));
     Select(inCase);
     Select(free2);
 
@@ -155,9 +155,9 @@ TEST_F(CreationCommandsTest, AddCaseOffersTheSelectedPhasesWithoutACaseAndIsPlac
 }
 
 TEST_F(CreationCommandsTest, AddSwitchRefusesANumberAboveItsCases) {
-    Case* first = CaseAt("C1", 0, 0);
-    Case* second = CaseAt("C2", 200, 0);
-    Case* taken = CaseAt("C3", 400, 0);
+    Case* first = CaseAt(weaver, "C1", 0, 0);
+    Case* second = CaseAt(weaver, "C2", 200, 0);
+    Case* taken = CaseAt(weaver, "C3", 400, 0);
     taken->switchId = weaver.NewSwitch()->id;
     Select(first);
     Select(second);
@@ -186,7 +186,7 @@ TEST_F(CreationCommandsTest, AddSwitchRefusesANumberAboveItsCases) {
 }
 
 TEST_F(CreationCommandsTest, AddCheckPrefillsByTypeAndStacksTheChecksUnderThePhase) {
-    Phase* phase = PhaseAt("P", 100, 200);
+    Phase* phase = PhaseAt(weaver, "P", 100, 200);
     weaver.AddCheck(CheckRange);
     EXPECT_TRUE(shown.empty()); // no phase selected
     EXPECT_EQ(weaver.objects.size(), 1u);
@@ -223,8 +223,8 @@ TEST_F(CreationCommandsTest, AddCheckPrefillsByTypeAndStacksTheChecksUnderThePha
 }
 
 TEST_F(CreationCommandsTest, AddRuleActionAsksForANameFreeInThePhase) {
-    Phase* phase = PhaseAt("P", 100, 200);
-    ActionOf(*phase, "Pilot", "Skin");
+    Phase* phase = PhaseAt(weaver, "P", 100, 200);
+    ActionOf(weaver, *phase, "Pilot", "Skin");
     Select(phase);
     const std::size_t before = weaver.objects.size();
 
@@ -257,8 +257,8 @@ TEST_F(CreationCommandsTest, AddRuleActionAsksForANameFreeInThePhase) {
 }
 
 TEST_F(CreationCommandsTest, OnlyEditsThatPassTheLaunchersChecksBecomeCommands) {
-    Phase* phase = PhaseAt("P", 0, 0);
-    PhaseAt("Other", 400, 0);
+    Phase* phase = PhaseAt(weaver, "P", 0, 0);
+    PhaseAt(weaver, "Other", 400, 0);
     const auto rename = [](const char* name) {
         return [name](DialogCall& call) { As<Phase>(call.object)->name = name; };
     };
@@ -277,12 +277,12 @@ TEST_F(CreationCommandsTest, OnlyEditsThatPassTheLaunchersChecksBecomeCommands) 
         return [given](DialogCall& call) { As<Action>(call.object)->rules = given; };
     };
     const ActionRule model{"set_model", {"fighter", "ally"}, ""};
-    Action* byHand = ActionOf(*phase, "", "Model");
+    Action* byHand = ActionOf(weaver, *phase, "", "Model");
     dialogs.QueueOutcome(true, rules({model}));
     weaver.EditObjectProperties(byHand);
     EXPECT_EQ(Commands(), 0u);
     EXPECT_EQ(byHand->rules, std::vector<ActionRule>{model});
-    Action* fromBlock = ActionOf(*phase, "Pilot", "Model");
+    Action* fromBlock = ActionOf(weaver, *phase, "Pilot", "Model");
     dialogs.QueueOutcome(true, rules({{"set_model", {"fighter", ""}, ""}}));
     dialogs.QueueOutcome(true, rules({model, model}));
     dialogs.QueueOutcome(true, rules({model}));
@@ -290,7 +290,7 @@ TEST_F(CreationCommandsTest, OnlyEditsThatPassTheLaunchersChecksBecomeCommands) 
         weaver.EditObjectProperties(fromBlock);
     EXPECT_TRUE(HistoryEndsWith<UR_EditActionCmd>(1));
 
-    Action* skin = ActionOf(*phase, "Pilot", "Skin");
+    Action* skin = ActionOf(weaver, *phase, "Pilot", "Skin");
     dialogs.QueueOutcome(true, rules({{"set_skin", {""}, ""}}));
     dialogs.QueueOutcome(true, rules({{"set_country", {"$s"}, ""}}));
     dialogs.QueueOutcome(true, rules({{"set_skin", {"$s", "extra"}, ""}}));
@@ -300,17 +300,17 @@ TEST_F(CreationCommandsTest, OnlyEditsThatPassTheLaunchersChecksBecomeCommands) 
 
     // A free check opens nothing; a case left without phases is refused.
     const std::size_t opened = dialogs.Log().size();
-    weaver.EditObjectProperties(CheckOf(*phase, CheckFree));
+    weaver.EditObjectProperties(CheckOf(weaver, *phase, CheckFree));
     EXPECT_EQ(dialogs.Log().size(), opened);
     dialogs.QueueOutcome(true);
-    weaver.EditObjectProperties(CaseAt("K", 0, 0));
+    weaver.EditObjectProperties(CaseAt(weaver, "K", 0, 0));
     EXPECT_EQ(Commands(), 2u);
 }
 
 // A new object never lands hidden under a gate label or another object of
 // its phase: it takes the free spot nearest to where it would have stood.
 TEST_F(CreationCommandsTest, NewChecksActionsAndUnlinkersLandClear) {
-    Phase* phase = PhaseAt("P", 100, 200);
+    Phase* phase = PhaseAt(weaver, "P", 100, 200);
     Select(phase);
     const auto overlap = [](const EditorObject& a, const ScreenRect& b) {
         const ScreenRect r = a.GetScreenRect(0, 0, 1.0f);
@@ -319,7 +319,7 @@ TEST_F(CreationCommandsTest, NewChecksActionsAndUnlinkersLandClear) {
     // The label of the output gate at y 275 runs from x 302 to 448.
     const ScreenRect outputLabel{302, 257, 448, 273};
     for (int i = 0; i < 5; ++i)
-        ActionOf(*phase, "Pilot", "Property" + std::to_string(i));
+        ActionOf(weaver, *phase, "Pilot", "Property" + std::to_string(i));
     // The sixth action would stand at (500, 250), over the label.
     dialogs.QueueOutcome(true, Typed("Ammo"));
     dialogs.QueueOutcome(true);
@@ -330,7 +330,7 @@ TEST_F(CreationCommandsTest, NewChecksActionsAndUnlinkersLandClear) {
     EXPECT_LE(std::abs(ammo.posY - 250), 30);
 
     // The first check would stand at (166, 372), where an action already is.
-    Action* inTheWay = ActionOf(*phase, "Pilot", "Skin");
+    Action* inTheWay = ActionOf(weaver, *phase, "Pilot", "Skin");
     inTheWay->posX = 166;
     inTheWay->posY = 372;
     weaver.AddCheck(CheckFree);
@@ -339,7 +339,7 @@ TEST_F(CreationCommandsTest, NewChecksActionsAndUnlinkersLandClear) {
     EXPECT_LE(std::abs(check.posY - 372) + std::abs(check.posX - 166), 60);
 
     // The unlinker would stand at (100, 50), where an action already is.
-    Action* above = ActionOf(*phase, "Pilot", "Country");
+    Action* above = ActionOf(weaver, *phase, "Pilot", "Country");
     above->posX = 100;
     above->posY = 50;
     dialogs.QueueOutcome(true, [&](DialogCall& call) {
@@ -357,8 +357,8 @@ TEST_F(CreationCommandsTest, NewChecksActionsAndUnlinkersLandClear) {
 // A phase dialog gives the phase its block's gates anew, all open; the links
 // must then close those they use again, also after an undo or a redo.
 TEST_F(CreationCommandsTest, APhaseEditKeepsItsLinkedGatesMarkedAsUsed) {
-    Phase* a = PhaseAt("A", 0, 0);
-    Phase* b = PhaseAt("B", 500, 0);
+    Phase* a = PhaseAt(weaver, "A", 0, 0);
+    Phase* b = PhaseAt(weaver, "B", 500, 0);
     weaver.links.push_back(Link{false, a->id, "out", b->id, "in"});
     weaver.RefreshGateMarks();
     const auto reopenGates = [](DialogCall& call) {

@@ -3,6 +3,7 @@
 #include "app/CanvasInput.h"
 #include "app/Weaver.h"
 #include "seams/ScriptedPropertyDialogs.h"
+#include "support/HandBuilt.h"
 #include "support/SampleEditor.h"
 
 #include <climits>
@@ -15,9 +16,8 @@ namespace lw::test {
 
 // An editor on an empty document, its view at the origin and scale 1 unless
 // a test moves it, with scripted dialogs and the canvas's raw input. Tests
-// build their objects at positions chosen so that the pixels are obvious: at
-// scale 1 a phase at (x, y) covers x..x+199, y..y+149, its single input gate
-// stands at (x - 150, y + 75) and its single output gate at (x + 350, y + 75).
+// build their objects by hand (support/HandBuilt.h) at positions chosen so
+// that the pixels are obvious.
 class GestureFixture : public ::testing::Test {
 protected:
     GestureFixture() {
@@ -25,40 +25,6 @@ protected:
         weaver.SetPropertyDialogs(&dialogs);
     }
 
-    Phase* PhaseAt(const std::string& name, int x, int y) {
-        Phase* phase = weaver.NewPhase();
-        phase->name = name;
-        phase->posX = x;
-        phase->posY = y;
-        phase->blocks["main"] = "scg\\0\\blocks\\air\\patrol.group";
-        phase->inputs = {GateSlot{"in"}};
-        phase->outputs = {GateSlot{"out"}};
-        return phase;
-    }
-    Case* CaseAt(const std::string& name, int x, int y) {
-        Case* item = weaver.NewCase();
-        item->name = name;
-        item->posX = x;
-        item->posY = y;
-        return item;
-    }
-    Check* CheckOf(Phase& phase, std::int32_t type, int x = 0, int y = 0) {
-        Check* check = weaver.NewCheck();
-        check->phaseId = phase.id;
-        check->type = type;
-        check->posX = x;
-        check->posY = y;
-        phase.AddCheckId(check->id);
-        return check;
-    }
-    Action* ActionOf(Phase& phase, const std::string& objectName, const std::string& name) {
-        Action* action = weaver.NewAction();
-        action->phaseId = phase.id;
-        action->objectName = objectName;
-        action->name = name;
-        phase.AddActionId(action->id);
-        return action;
-    }
     void Select(EditorObject* object) {
         weaver.selection.Add(object);
         weaver.selection.Recalculate();

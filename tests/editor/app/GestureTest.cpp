@@ -42,11 +42,11 @@ protected:
 } // namespace
 
 TEST_F(GestureTest, APressOnASelectedObjectDragsTheWholeSelectionHiddenMembersToo) {
-    Phase* a = PhaseAt("A", 0, 0);
-    Phase* c = PhaseAt("C", 500, 0);
-    Phase* untouched = PhaseAt("D", 1000, 0);
+    Phase* a = PhaseAt(weaver, "A", 0, 0);
+    Phase* c = PhaseAt(weaver, "C", 500, 0);
+    Phase* untouched = PhaseAt(weaver, "D", 1000, 0);
     // Checks are hidden, so this one can't be hit, yet it stays selected.
-    Check* check = CheckOf(*a, CheckSquad, 66, 172);
+    Check* check = CheckOf(weaver, *a, CheckSquad, 66, 172);
     for (EditorObject* object : Members{a, c, check})
         Select(object);
     DragThrough(600, 50, {{610, 60}});
@@ -59,8 +59,8 @@ TEST_F(GestureTest, APressOnASelectedObjectDragsTheWholeSelectionHiddenMembersTo
 
 TEST_F(GestureTest, CtrlClickTogglesOnTheReleaseAndAShiftClickNeitherSelectsNorPicks) {
     weaver.options.DrawInputOutputs = true;
-    Phase* a = PhaseAt("A", 0, 0);
-    AddLink(*a, *PhaseAt("C", 800, 0));
+    Phase* a = PhaseAt(weaver, "A", 0, 0);
+    AddLink(*a, *PhaseAt(weaver, "C", 800, 0));
     const auto ctrlClick = [&](int releaseX) {
         input.LeftDown(50, 50, kLeftButton | kCtrlKey);
         EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
@@ -89,10 +89,10 @@ TEST_F(GestureTest, CtrlClickTogglesOnTheReleaseAndAShiftClickNeitherSelectsNorP
 TEST_F(GestureTest, DeleteTakesThePickedLinkThenThePickedGeometryLineThenTheSelection) {
     weaver.options.DrawInputOutputs = true;
     weaver.options.DrawGeometry = true;
-    Phase* a = PhaseAt("A", 0, 0);
-    AddLink(*a, *PhaseAt("C", 800, 0));
-    const std::int32_t b = PhaseAt("B", 400, 0)->id;
-    const std::int32_t t = PhaseAt("T", 1000, 50)->id;
+    Phase* a = PhaseAt(weaver, "A", 0, 0);
+    AddLink(*a, *PhaseAt(weaver, "C", 800, 0));
+    const std::int32_t b = PhaseAt(weaver, "B", 400, 0)->id;
+    const std::int32_t t = PhaseAt(weaver, "T", 1000, 50)->id;
     a->primaryLinkId = t;
 
     // A press anywhere drops what was picked before.
@@ -132,15 +132,15 @@ TEST_F(GestureTest, LinesArePickedWithinSixPixelsAndPastTheirEndsByTheDistanceTo
     weaver.options.DrawInputOutputs = true;
     weaver.options.DrawGeometry = true;
     // A slanted link from (350, 75) to (450, 375).
-    Phase* a = PhaseAt("A", 0, 0);
-    AddLink(*a, *PhaseAt("C", 600, 300));
+    Phase* a = PhaseAt(weaver, "A", 0, 0);
+    AddLink(*a, *PhaseAt(weaver, "C", 600, 300));
     EXPECT_EQ(PickedLinkSource(406, 225), a->id); // 18 / sqrt(10), about 5.7 pixels
     EXPECT_EQ(PickedLinkSource(407, 225), 0);     // 21 / sqrt(10), about 6.6 pixels
 
     // A level link from (350, 1075) to (650, 1075); past an end, the
     // distance is the one to the end, not to the line drawn on.
-    Phase* d = PhaseAt("D", 0, 1000);
-    AddLink(*d, *PhaseAt("E", 800, 1000));
+    Phase* d = PhaseAt(weaver, "D", 0, 1000);
+    AddLink(*d, *PhaseAt(weaver, "E", 800, 1000));
     EXPECT_EQ(PickedLinkSource(500, 1080), d->id);
     EXPECT_EQ(PickedLinkSource(500, 1081), 0);
     EXPECT_EQ(PickedLinkSource(655, 1075), d->id);
@@ -148,17 +148,17 @@ TEST_F(GestureTest, LinesArePickedWithinSixPixelsAndPastTheirEndsByTheDistanceTo
     EXPECT_EQ(PickedLinkSource(345, 1075), d->id);
     EXPECT_EQ(PickedLinkSource(344, 1075), 0);
     // A link wins over a geometry line as near: Q's starts at (500, 1075).
-    Phase* q = PhaseAt("Q", 434, 1025);
-    q->primaryLinkId = PhaseAt("R", 500, 1500)->id;
+    Phase* q = PhaseAt(weaver, "Q", 434, 1025);
+    q->primaryLinkId = PhaseAt(weaver, "R", 500, 1500)->id;
     weaver.pickedGeometryPhase = 0;
     EXPECT_EQ(PickedLinkSource(500, 1076), d->id);
     EXPECT_EQ(weaver.pickedGeometryPhase, 0u);
 
     // Geometry lines of every phase count, a server phase's too.
-    Phase* g = PhaseAt("G", 0, 2000);
+    Phase* g = PhaseAt(weaver, "G", 0, 2000);
     g->generationType = GenerationServerSetPos;
-    g->primaryLinkId = PhaseAt("H", 1000, 2050)->id; // (66, 2050) to (1000, 2050)
-    g->secondaryLinkId = PhaseAt("J", 66, 2600)->id; // (66, 2050) to (66, 2600)
+    g->primaryLinkId = PhaseAt(weaver, "H", 1000, 2050)->id; // (66, 2050) to (1000, 2050)
+    g->secondaryLinkId = PhaseAt(weaver, "J", 66, 2600)->id; // (66, 2050) to (66, 2600)
     EXPECT_EQ(PickedGeometryPhase(500, 2056), 0);
     EXPECT_EQ(PickedGeometryPhase(500, 2055), g->id);
     EXPECT_TRUE(weaver.pickedIsPrimary);
@@ -180,7 +180,7 @@ TEST_F(GestureTest, EscapeEndsPlacingsLinkGesturesAndDragsButNotBands) {
     input.Key(CanvasKey::Escape);
     EXPECT_EQ(weaver.pendingPhase, nullptr);
     EXPECT_EQ(weaver.currentCursor, CanvasCursor::Arrow);
-    Phase* member = PhaseAt("M", 0, 1000);
+    Phase* member = PhaseAt(weaver, "M", 0, 1000);
     Select(member);
     dialogs.QueueOutcome(
         true, [](DialogCall& call) { As<Case>(call.object)->phaseIds = call.firstMembers; });
@@ -188,7 +188,7 @@ TEST_F(GestureTest, EscapeEndsPlacingsLinkGesturesAndDragsButNotBands) {
     ASSERT_EQ(weaver.interactionState(), InteractionState::StatePlaceCase);
     input.Key(CanvasKey::Escape);
     weaver.selection.Clear();
-    Select(CaseAt("C", 0, 1400));
+    Select(CaseAt(weaver, "C", 0, 1400));
     dialogs.QueueOutcome(true, [](DialogCall& call) {
         As<Switch>(call.object)->caseIds = call.firstMembers;
         As<Switch>(call.object)->number = 1;
@@ -201,7 +201,7 @@ TEST_F(GestureTest, EscapeEndsPlacingsLinkGesturesAndDragsButNotBands) {
     EXPECT_EQ(weaver.objects.size(), 2u) << "only the case's phase and the switch's case";
     weaver.selection.Clear();
 
-    Phase* source = PhaseAt("S", 0, 0);
+    Phase* source = PhaseAt(weaver, "S", 0, 0);
     Select(source);
     weaver.StartGeometryLink(true);
     input.Key(CanvasKey::Escape);
@@ -231,10 +231,10 @@ TEST_F(GestureTest, EscapeEndsPlacingsLinkGesturesAndDragsButNotBands) {
 // S, a fractal phase, already leads its secondary link to X; Y overlaps X and
 // comes after it in the list.
 TEST_F(GestureTest, AHandDrawnLinkSkipsTheSourceTheEmptyCanvasAndTheOtherLinksTarget) {
-    Phase* source = PhaseAt("S", 0, 0);
+    Phase* source = PhaseAt(weaver, "S", 0, 0);
     source->generationType = GenerationFractal;
-    const std::int32_t x = PhaseAt("X", 400, 0)->id;
-    const std::int32_t y = PhaseAt("Y", 450, 50)->id;
+    const std::int32_t x = PhaseAt(weaver, "X", 400, 0)->id;
+    const std::int32_t y = PhaseAt(weaver, "Y", 450, 50)->id;
     source->secondaryLinkId = x;
     Select(source);
     weaver.StartGeometryLink(true);
@@ -260,8 +260,8 @@ TEST_F(GestureTest, AHandDrawnLinkSkipsTheSourceTheEmptyCanvasAndTheOtherLinksTa
 // click would pick; it is drawn with its own pen over the others.
 TEST_F(GestureTest, TheLinkUnderTheRestingPointerIsHighlighted) {
     weaver.options.DrawInputOutputs = true;
-    Phase* a = PhaseAt("A", 0, 1000);
-    AddLink(*a, *PhaseAt("B", 800, 1000)); // from (350, 1075) to (650, 1075)
+    Phase* a = PhaseAt(weaver, "A", 0, 1000);
+    AddLink(*a, *PhaseAt(weaver, "B", 800, 1000)); // from (350, 1075) to (650, 1075)
     const int repaints = e.host.repaints;
     input.Move(500, 1080, 0);
     EXPECT_EQ(weaver.hoveredLink.fromPhaseId, a->id);

@@ -13,15 +13,15 @@ class AddCommandsTest : public ::testing::Test {
 protected:
     test::SampleEditor editor;
     Weaver& weaver = editor.weaver;
-    Phase* phase = AddPhase(weaver);
+    Phase* phase = PhaseAt(weaver);
 };
 
 } // namespace
 
 TEST_F(AddCommandsTest, ObjectsLeaveAndReenterWhatPointsBackAtThem) {
-    Check* check = AddCheck(weaver, *phase, CheckRange);
-    AddCheck(weaver, *phase, CheckFree);
-    Action* action = AddAction(weaver, *phase, "");
+    Check* check = CheckOf(weaver, *phase, CheckRange);
+    CheckOf(weaver, *phase, CheckFree);
+    Action* action = ActionOf(weaver, *phase, "");
     Switch* aSwitch = weaver.NewSwitch();
     Case* aCase = weaver.NewCase();
     // Ids that name nothing, or an object of another kind, are stepped over.

@@ -35,12 +35,12 @@ protected:
 class DeletePhaseTest : public DeleteObjectsTest {
 protected:
     DeletePhaseTest() {
-        Phase* phase = AddPhase(weaver);
-        AddPhase(weaver)->primaryLinkId = phase->id;
-        AddPhase(weaver)->secondaryLinkId = phase->id;
-        AddCheck(weaver, *phase, CheckRange);
-        AddAction(weaver, *phase, "");
-        AddAction(weaver, *phase, "Plane");
+        Phase* phase = PhaseAt(weaver);
+        PhaseAt(weaver)->primaryLinkId = phase->id;
+        PhaseAt(weaver)->secondaryLinkId = phase->id;
+        CheckOf(weaver, *phase, CheckRange);
+        ActionOf(weaver, *phase, "");
+        ActionOf(weaver, *phase, "Plane");
         weaver.NewUnlinker()->phaseId = phase->id;
         weaver.NewCase()->phaseIds = {1, 2};
         phase->caseId = Get<Phase>(2).caseId = 8;
@@ -98,7 +98,7 @@ TEST_F(DeletePhaseTest, AnActionAloneGoesOnlyIfItIsARuleAction) {
 }
 
 TEST_F(DeleteObjectsTest, OnlyThePhasesFirstUnlinkerGoesWithIt) {
-    const std::int32_t phase = AddPhase(weaver)->id;
+    const std::int32_t phase = PhaseAt(weaver)->id;
     weaver.NewUnlinker()->phaseId = phase;
     weaver.NewUnlinker()->phaseId = phase;
     Delete({phase})->Undo();
@@ -110,7 +110,7 @@ TEST_F(DeleteObjectsTest, OnlyThePhasesFirstUnlinkerGoesWithIt) {
 // order. Geometry links are cut from the referrers in list order.
 TEST_F(DeleteObjectsTest, LinksAndReferrersAreTakenInOrder) {
     for (int i = 0; i < 4; ++i)
-        AddPhase(weaver);
+        PhaseAt(weaver);
     const auto link = [&](std::int32_t from, std::int32_t to) {
         return LinkBetween(Get<Phase>(from), Get<Phase>(to));
     };
@@ -142,7 +142,7 @@ protected:
         weaver.NewSwitch()->caseIds = {2, 3};
         weaver.NewCase()->switchId = 1;
         weaver.NewCase()->switchId = 1;
-        AddPhase(weaver)->caseId = 2;
+        PhaseAt(weaver)->caseId = 2;
         Get<Case>(2).phaseIds = {4};
     }
 };

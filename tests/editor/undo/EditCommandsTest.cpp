@@ -15,15 +15,15 @@ class EditCommandsTest : public ::testing::Test {
 protected:
     test::SampleEditor editor;
     Weaver& weaver = editor.weaver;
-    Phase* phase = AddPhase(weaver);
+    Phase* phase = PhaseAt(weaver);
 };
 
 } // namespace
 
 TEST_F(EditCommandsTest, OnlyTheFieldsOfTheDialogAreWrittenBack) {
-    Action* action = AddAction(weaver, *phase, "Plane");
+    Action* action = ActionOf(weaver, *phase, "Plane");
     action->name = "Skin";
-    Check* check = AddCheck(weaver, *phase, CheckRange);
+    Check* check = CheckOf(weaver, *phase, CheckRange);
     check->params = {"1"};
     Unlinker* unlinker = weaver.NewUnlinker();
     unlinker->phaseId = phase->id;
@@ -70,7 +70,7 @@ TEST_F(EditCommandsTest, OnlyTheFieldsOfTheDialogAreWrittenBack) {
 }
 
 TEST_F(EditCommandsTest, CaseAndSwitchEditsMoveTheirMembersInAndOut) {
-    Phase* second = AddPhase(weaver);
+    Phase* second = PhaseAt(weaver);
     Case* aCase = weaver.NewCase();
     Case* other = weaver.NewCase();
     Switch* aSwitch = weaver.NewSwitch();

@@ -14,15 +14,15 @@ namespace {
 class EditPhaseCmdTest : public ::testing::Test {
 protected:
     EditPhaseCmdTest() {
-        AddPhase(weaver);
+        PhaseAt(weaver);
         phase->primaryLinkId = 2;
         for (std::int32_t type : {CheckRange, CheckFree, CheckInRadius, CheckInSector})
-            AddCheck(weaver, *phase, type);
+            CheckOf(weaver, *phase, type);
     }
 
     test::SampleEditor editor;
     Weaver& weaver = editor.weaver;
-    Phase* phase = AddPhase(weaver);
+    Phase* phase = PhaseAt(weaver);
 };
 
 } // namespace
@@ -68,7 +68,8 @@ TEST_F(EditPhaseCmdTest, OnlyTheFieldsOfTheDialogAreWrittenBack) {
 
     command.Undo();
     EXPECT_EQ(phase->name, "phase_1");
-    EXPECT_TRUE(phase->blocks.empty() && phase->blockProperties.empty());
+    EXPECT_EQ(phase->blocks.at("main"), "scg\\0\\blocks\\air\\patrol.group");
+    EXPECT_TRUE(phase->blocks.size() == 1 && phase->blockProperties.empty());
     EXPECT_EQ(phase->generationType, 4);
     EXPECT_EQ(phase->allocationType, "clone_location");
     EXPECT_EQ(phase->secondaryLinkId, 0);

@@ -14,8 +14,8 @@ class LinkCommandsTest : public ::testing::Test {
 protected:
     test::SampleEditor editor;
     Weaver& weaver = editor.weaver;
-    Phase* from = AddPhase(weaver);
-    Phase* to = AddPhase(weaver);
+    Phase* from = PhaseAt(weaver);
+    Phase* to = PhaseAt(weaver);
     Link link = LinkBetween(*from, *to);
     bool& toInputOpen = to->inputs[0].openMark;
 };

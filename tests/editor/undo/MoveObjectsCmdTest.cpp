@@ -10,7 +10,7 @@ using namespace lw::test;
 TEST(MoveObjectsCmdTest, ADragIsUndoneAndRedoneByItsTotalMove) {
     test::SampleEditor editor;
     Weaver& weaver = editor.weaver;
-    Phase* phase = AddPhase(weaver);
+    Phase* phase = PhaseAt(weaver);
     Case* aCase = weaver.NewCase();
     weaver.selection.Add(phase);
     weaver.selection.Add(aCase);

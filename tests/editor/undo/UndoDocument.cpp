@@ -64,31 +64,4 @@ std::string Describe(const Weaver& weaver) {
     return out.str();
 }
 
-Phase* AddPhase(Weaver& weaver) {
-    Phase* phase = weaver.NewPhase();
-    phase->inputs = {GateSlot{"in"}};
-    phase->outputs = {GateSlot{"out"}};
-    return phase;
-}
-
-Check* AddCheck(Weaver& weaver, Phase& phase, std::int32_t type) {
-    Check* check = weaver.NewCheck();
-    check->phaseId = phase.id;
-    check->type = type;
-    phase.AddCheckId(check->id);
-    return check;
-}
-
-Action* AddAction(Weaver& weaver, Phase& phase, const std::string& objectName) {
-    Action* action = weaver.NewAction();
-    action->phaseId = phase.id;
-    action->objectName = objectName;
-    phase.AddActionId(action->id);
-    return action;
-}
-
-Link LinkBetween(const Phase& from, const Phase& to) {
-    return Link{true, from.id, "out", to.id, "in"};
-}
-
 } // namespace lw::test

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Weaver.h"
+#include "support/HandBuilt.h"
 
 #include <cstdint>
 #include <string>
@@ -18,12 +19,5 @@ Ids ObjectOrder(const Weaver& weaver);
 // Documents that differ only in the order of `objects` read alike; an object
 // the index does not find is marked.
 std::string Describe(const Weaver& weaver);
-
-// A phase with one input gate "in" and one output gate "out".
-Phase* AddPhase(Weaver& weaver);
-// A check or an action entered in its phase, as their creators leave them.
-Check* AddCheck(Weaver& weaver, Phase& phase, std::int32_t type);
-Action* AddAction(Weaver& weaver, Phase& phase, const std::string& objectName);
-Link LinkBetween(const Phase& from, const Phase& to);
 
 } // namespace lw::test
