@@ -55,19 +55,6 @@ private slots:
         QVERIFY(!weaver.blockPool.blocks.empty());
     }
 
-    void canvasIsWhiteInsideABlackFrame() {
-        CMainFrame frame;
-        QVERIFY(frame.OnCreate(LOOMWRIGHT_SAMPLE_DATA_DIR));
-        frame.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&frame));
-        const QImage canvas = frame.view().grab().toImage();
-        QVERIFY(canvas.width() > 100 && canvas.height() > 100);
-        QCOMPARE(QColor(canvas.pixel(0, 0)), QColor(Qt::black));
-        QCOMPARE(QColor(canvas.pixel(canvas.width() - 1, canvas.height() / 2)), QColor(Qt::black));
-        QCOMPARE(QColor(canvas.pixel(canvas.width() / 2, canvas.height() / 2)), QColor(Qt::white));
-        QCOMPARE(QColor(canvas.pixel(1, 1)), QColor(Qt::white));
-    }
-
     void closingSavesTheOptions() {
         {
             CMainFrame frame;

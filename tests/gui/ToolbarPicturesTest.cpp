@@ -84,30 +84,6 @@ private slots:
         }
     }
 
-    void placeCursorAimsThroughAnOpenBox() {
-        const QCursor cursor = PlaceCursor();
-        QCOMPARE(cursor.shape(), Qt::BitmapCursor);
-        QCOMPARE(cursor.hotSpot(), QPoint(15, 8));
-
-        const QImage image = PlaceCursorImage();
-        QCOMPARE(image.size(), QSize(32, 32));
-        // The box's four sides round the hot spot, and the arms beyond them.
-        QVERIFY(IsBlack(image, 13, 8) && IsBlack(image, 17, 8));
-        QVERIFY(IsBlack(image, 15, 6) && IsBlack(image, 15, 10));
-        QVERIFY(IsBlack(image, 9, 8) && IsBlack(image, 21, 8));
-        QVERIFY(IsBlack(image, 15, 2) && IsBlack(image, 15, 14));
-        for (int y = 7; y <= 9; ++y) {
-            for (int x = 14; x <= 16; ++x)
-                QVERIFY2(IsClear(image, x, y), "the box is open");
-        }
-        int wordPixels = 0;
-        for (int y = 17; y < 32; ++y) {
-            for (int x = 0; x < 32; ++x)
-                wordPixels += IsBlack(image, x, y) ? 1 : 0;
-        }
-        QVERIFY2(wordPixels > 30, "the word under the cross hair");
-    }
-
     // A white outline round every line outside the box keeps the cursor
     // visible on a dark ground; the cursor itself must show the same picture.
     void placeCursorIsOutlinedAndMatchesItsImage() {

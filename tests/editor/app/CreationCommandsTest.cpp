@@ -121,39 +121,6 @@ TEST_F(CreationCommandsTest, TheReleasePlacesThePhaseWithAnActionForEachBlockPro
     EXPECT_EQ(At(weaver.FindObject(3)), (Point{366, -154}));
 }
 
-TEST_F(CreationCommandsTest, AddCaseOffersTheSelectedPhasesWithoutACaseAndIsPlacedByARelease) {
-    Phase* free1 = PhaseAt(weaver, "P1", 0, 0);
-    Phase* inCase = PhaseAt(weaver, "P2", 300, 0);
-    Phase* free2 = PhaseAt(weaver, "P3", 600, 0);
-    inCase->caseId = CaseAt(weaver, "Old", 0, 400)->id;
-    Select(free1);
-    Select(CheckOf(weaver, *free1, CheckSquad));
-    Select(inCase);
-    Select(free2);
-
-    Answer(false);
-    Answer(true); // with no phases of its own
-    Answer(true, [](DialogCall& call) { As<Case>(call.object)->phaseIds = call.firstMembers; });
-    for (int i = 0; i < 3; ++i)
-        weaver.AddCase();
-
-    ASSERT_EQ(shown.size(), 3u);
-    EXPECT_EQ(shown[2].firstMembers, (Ids{free1->id, free2->id}));
-    ASSERT_NE(weaver.pendingCase, nullptr);
-    EXPECT_EQ(weaver.pendingCase->id, 8);
-    EXPECT_EQ(weaver.pendingCase->name, "CASE8");
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StatePlaceCase);
-    EXPECT_EQ(weaver.currentCursor, CanvasCursor::Place);
-    EXPECT_EQ(weaver.FindObject(6), nullptr);
-    EXPECT_EQ(weaver.FindObject(7), nullptr);
-
-    ClickAt(500, 400);
-    EXPECT_EQ(At(weaver.FindObject(8)), (Point{500, 400}));
-    EXPECT_EQ(weaver.pendingCase, nullptr);
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
-    EXPECT_TRUE(HistoryEndsWith<UR_AddNewCaseCmd>(1));
-}
-
 TEST_F(CreationCommandsTest, AddSwitchRefusesANumberAboveItsCases) {
     Case* first = CaseAt(weaver, "C1", 0, 0);
     Case* second = CaseAt(weaver, "C2", 200, 0);

@@ -48,29 +48,6 @@ protected:
 
 } // namespace
 
-TEST_F(FileCommandsTest, StartOpensTheLastUsedTemplateWhenAsked) {
-    store.SetString(EditorOptions::kSection, "LastUsedTemplateName", kSmall);
-    StartUp();
-    EXPECT_EQ(weaver.fileName, kSmall);
-    EXPECT_FALSE(weaver.objects.empty());
-    EXPECT_EQ(host.title, "Loomwright - scg\\sample_small.mt");
-    EXPECT_TRUE(prompts.Log().empty());
-
-    Weaver notAsked{prompts, store, disk};
-    store.SetInt(EditorOptions::kSection, "OpenLastUsedTemplateOnStart", 0);
-    notAsked.StartUp(kData);
-    EXPECT_TRUE(notAsked.objects.empty());
-}
-
-TEST_F(FileCommandsTest, AMissingLastTemplateLeavesAnEmptyDocument) {
-    store.SetString(EditorOptions::kSection, "LastUsedTemplateName", "scg\\gone.mt");
-    StartUp();
-    EXPECT_EQ(prompts.MessageTexts(), std::vector<std::string>{"Can't open template file!"});
-    EXPECT_TRUE(weaver.fileName.empty());
-    // A caption that ends in " - " reads as if something were missing.
-    EXPECT_EQ(host.title, "Loomwright - untitled");
-}
-
 TEST_F(FileCommandsTest, AFailedSaveKeepsTheOldFileAndTheChanges) {
     StartUp();
     LoadChanged();

@@ -57,33 +57,6 @@ TEST_F(GestureTest, APressOnASelectedObjectDragsTheWholeSelectionHiddenMembersTo
     EXPECT_EQ(At(untouched), (Point{1000, 0}));
 }
 
-TEST_F(GestureTest, CtrlClickTogglesOnTheReleaseAndAShiftClickNeitherSelectsNorPicks) {
-    weaver.options.DrawInputOutputs = true;
-    Phase* a = PhaseAt(weaver, "A", 0, 0);
-    AddLink(*a, *PhaseAt(weaver, "C", 800, 0));
-    const auto ctrlClick = [&](int releaseX) {
-        input.LeftDown(50, 50, kLeftButton | kCtrlKey);
-        EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
-        input.LeftUp(releaseX, 50, kCtrlKey);
-    };
-    ctrlClick(50);
-    EXPECT_EQ(Selected(), Members{a});
-    ctrlClick(60); // a release away from the press does nothing
-    EXPECT_EQ(Selected(), Members{a});
-    ctrlClick(50);
-    EXPECT_TRUE(Selected().empty());
-
-    // (500, 75) lies on the link, on the empty canvas.
-    Select(a);
-    input.LeftDown(500, 75, kLeftButton | kShiftKey);
-    input.LeftUp(500, 75, kShiftKey);
-    EXPECT_EQ(Selected(), Members{a});
-    EXPECT_EQ(weaver.selectedLink.fromPhaseId, 0);
-    ClickAt(500, 75);
-    EXPECT_TRUE(Selected().empty());
-    EXPECT_EQ(weaver.selectedLink.fromPhaseId, a->id);
-}
-
 // A link from A through B to C, and A's primary geometry line to T, which
 // crosses B 25 pixels above the link.
 TEST_F(GestureTest, DeleteTakesThePickedLinkThenThePickedGeometryLineThenTheSelection) {

@@ -72,24 +72,6 @@ TEST_F(UndoManagerTest, ANullPushMarksTheDocumentAndKeepsTheRedoStack) {
     EXPECT_EQ(host.titles, std::vector<std::string>{"Loomwright - scg\\a.mt*"});
 }
 
-TEST_F(UndoManagerTest, UndoAndRedoMoveTheNewestAcross) {
-    for (int i = 1; i <= 100; ++i)
-        history.Push(Command(i));
-    auto* newest = static_cast<LoggingCommand*>(history.undoStack.back().get());
-    weaver.Undo();
-    EXPECT_EQ(newest->undone, 1);
-    ASSERT_EQ(history.redoStack.size(), 1u);
-    EXPECT_EQ(history.redoStack.back().get(), newest);
-
-    // A push ends the redo branch; a redo takes the newest undone command back.
-    history.Push(Command(101));
-    EXPECT_EQ(destroyed, std::vector<int>{100});
-    weaver.Undo();
-    weaver.Redo();
-    EXPECT_EQ(history.undoStack.size(), 100u);
-    EXPECT_TRUE(history.redoStack.empty());
-}
-
 // Coming back to the saved state clears the "*" and leaving it sets it, so
 // the caption tells truthfully whether the file differs from the document.
 TEST_F(UndoManagerTest, UndoAndRedoRememberTheSavedState) {

@@ -29,17 +29,6 @@ using Strings = std::vector<std::string>;
 
 } // namespace
 
-TEST_F(WeaverStartUpTest, WithoutAnIniTheDefaultsStand) {
-    disk.AddDirectory(kData);
-    StartUp();
-    EXPECT_EQ(weaver.tvdFolder, "scg\\0\\");
-    EXPECT_EQ(weaver.modelsPath, "models.cfg");
-    EXPECT_EQ(weaver.actionsPath, "actions.cfg");
-    EXPECT_TRUE(weaver.blockFolders.empty());
-    EXPECT_TRUE(weaver.blockPool.blocks.empty());
-    EXPECT_TRUE(prompts.Log().empty());
-}
-
 TEST_F(WeaverStartUpTest, TheTvdPrefixAppliesOnlyToTheLinesBelowIt) {
     WriteIni("tvd scg\\1\\\r\nmodels a.cfg\r\n");
     StartUp();

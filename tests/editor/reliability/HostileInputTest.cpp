@@ -105,29 +105,3 @@ TEST_F(HostileInputTest, AnUnreadableTemplateIsRefusedAfterTheChangesWereSaved) 
     EXPECT_TRUE(editor.weaver.objects.empty());
     EXPECT_TRUE(editor.weaver.fileName.empty());
 }
-
-TEST(HostileDiskTest, ABlockFolderThatLinksToItselfIsScannedOnce) {
-    test::ScratchFolder scratch;
-    const fs::path blocks = scratch.root / "scg" / "0" / "blocks";
-    fs::create_directories(blocks / "sub");
-    test::WriteDiskFile(scratch.root / "scg" / "Loomwright.ini", "blocks blocks\r\n");
-    test::WriteDiskFile(blocks / "a.group", "MCU_H_Input\n{\nName = \"in\";\n}\n");
-    test::WriteDiskFile(blocks / "sub" / "b.group", "");
-    std::error_code error;
-    fs::create_directory_symlink(".", blocks / "self", error);
-    fs::create_directory_symlink("..", blocks / "sub" / "up", error);
-    fs::create_directory_symlink("knot", blocks / "knot", error);
-    if (error)
-        GTEST_SKIP() << "no symbolic links here: " << error.message();
-
-    NativeFileSystem disk;
-    MemoryOptionsStore store;
-    RecordingPrompts prompts;
-    Weaver weaver{prompts, store, disk};
-    weaver.StartUp(scratch.root.generic_u8string());
-    Names references;
-    for (const auto& block : weaver.blockPool.blocks)
-        references.push_back(block.first);
-    EXPECT_EQ(references, (Names{"scg\\0\\blocks\\a.group", "scg\\0\\blocks\\sub\\b.group"}));
-    EXPECT_TRUE(prompts.Log().empty());
-}

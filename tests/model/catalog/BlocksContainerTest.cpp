@@ -69,13 +69,6 @@ TEST_F(BlocksContainerTest, LoadKeysBlocksByExactLowerCaseReference) {
     EXPECT_TRUE(prompts.Log().empty());
 }
 
-TEST_F(BlocksContainerTest, ALaterFolderReplacesTheEarlierReadOfAFile) {
-    pool.Load({"scg\\0\\blocks", "scg\\0\\blocks\\air", "scg\\nowhere"});
-    EXPECT_EQ(pool.blocks.size(), 3u);
-    EXPECT_EQ(pool.GetBlock("scg\\0\\blocks\\air\\patrol.group").folder, "scg\\0\\blocks\\air");
-    EXPECT_EQ(pool.GetBlock("scg\\0\\blocks\\zeta.group").folder, "scg\\0\\blocks");
-}
-
 TEST_F(BlocksContainerTest, EachUnreadableFileCostsOneMessageAndTheScanGoesOn) {
     disk.MakeUnreadable("/data/scg/0/Blocks/Zeta.Group");
     disk.MakeUnreadable("/data/scg/0/Blocks/Air/Deep/x.group");
@@ -89,17 +82,6 @@ TEST_F(BlocksContainerTest, EachUnreadableFileCostsOneMessageAndTheScanGoesOn) {
     BlockInfo info;
     EXPECT_FALSE(pool.ReadBlockFile(info, "scg\\0\\blocks\\zeta.group", true));
     EXPECT_EQ(prompts.Log().size(), 2u);
-}
-
-TEST_F(BlocksContainerTest, AReloadBuildsThePoolAnew) {
-    pool.Load({"scg\\0\\blocks"});
-    pool.Put("scg\\other\\put.group", BlockInfo());
-    disk.Remove("/data/scg/0/Blocks/Zeta.Group");
-    pool.Load({"scg\\0\\blocks"});
-    EXPECT_FALSE(pool.Contains("scg\\0\\blocks\\zeta.group"));
-    EXPECT_FALSE(pool.Contains("scg\\other\\put.group"));
-    pool.Load({});
-    EXPECT_TRUE(pool.blocks.empty());
 }
 
 TEST_F(BlocksContainerTest, FirstBlockInFolderComparesTheKeysOwnFolderCaseBlind) {
