@@ -39,10 +39,6 @@ bool IsClassicColour(QRgb pixel) {
     return palette.contains(pixel);
 }
 
-bool IsBlack(const QImage& image, int x, int y) {
-    return image.pixel(x, y) == qRgb(0, 0, 0);
-}
-
 bool IsClear(const QImage& image, int x, int y) {
     return qAlpha(image.pixel(x, y)) == 0;
 }
@@ -81,34 +77,6 @@ private slots:
             for (const QImage& other : seen)
                 QVERIFY2(other != image, name + " looks like another button");
             seen.push_back(image);
-        }
-    }
-
-    // A white outline round every line outside the box keeps the cursor
-    // visible on a dark ground; the cursor itself must show the same picture.
-    void placeCursorIsOutlinedAndMatchesItsImage() {
-        const QImage image = PlaceCursorImage();
-        for (int y = 0; y < 32; ++y) {
-            for (int x = 0; x < 32; ++x) {
-                const bool inBox = x >= 13 && x <= 17 && y >= 6 && y <= 10;
-                if (!IsBlack(image, x, y) || inBox)
-                    continue;
-                for (int dy = -1; dy <= 1; ++dy) {
-                    for (int dx = -1; dx <= 1; ++dx)
-                        QVERIFY2(!IsClear(image, x + dx, y + dy), "outline missing");
-                }
-            }
-        }
-
-        const QCursor cursor = PlaceCursor();
-        const QImage bitmap = cursor.bitmap().toImage().convertToFormat(QImage::Format_RGB32);
-        const QImage mask = cursor.mask().toImage().convertToFormat(QImage::Format_RGB32);
-        QCOMPARE(bitmap.size(), QSize(32, 32));
-        for (int y = 0; y < 32; ++y) {
-            for (int x = 0; x < 32; ++x) {
-                QCOMPARE(IsBlack(bitmap, x, y), IsBlack(image, x, y));
-                QCOMPARE(IsBlack(mask, x, y), !IsClear(image, x, y));
-            }
         }
     }
 

@@ -30,14 +30,6 @@ std::string Quoted(const std::string& word) {
     return quoted + "'";
 }
 
-void ToolFolderTest::SetUp() {
-    folder = std::filesystem::temp_directory_path() /
-             ("loomwright-tool-" +
-              std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    std::filesystem::remove_all(folder);
-    std::filesystem::create_directories(folder);
-}
-
 std::string ToolFolderTest::FreshDataFor(const std::string& caseFolder) const {
     namespace fs = std::filesystem;
     const fs::path data = folder / "data";
@@ -47,8 +39,4 @@ std::string ToolFolderTest::FreshDataFor(const std::string& caseFolder) const {
         fs::copy(caseFolder + "/data", data,
                  fs::copy_options::recursive | fs::copy_options::overwrite_existing);
     return data.string();
-}
-
-void ToolFolderTest::TearDown() {
-    std::filesystem::remove_all(folder);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/ScratchFolder.h"
+
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
@@ -17,16 +19,15 @@ ToolRun RunTool(const std::string& arguments, const std::string& workingFolder =
 // A word quoted for the shell.
 std::string Quoted(const std::string& word);
 
-// A test with a scratch folder of its own, made empty before and removed after.
+// A test with a scratch folder of its own, removed after it.
 class ToolFolderTest : public ::testing::Test {
 protected:
-    void SetUp() override;
-    void TearDown() override;
     std::string Path(const std::string& name) const { return (folder / name).string(); }
     // A fresh copy of the sample data folder in the scratch folder, since
     // copies and reloads write into it, with the files of the case's data/
     // folder copied over it.
     std::string FreshDataFor(const std::string& caseFolder) const;
 
-    std::filesystem::path folder;
+    lw::test::ScratchFolder scratch;
+    const std::filesystem::path& folder = scratch.root;
 };

@@ -38,23 +38,6 @@ protected:
 
 } // namespace
 
-// A template opens showing all of it, and stays fitted to the canvas while
-// the window finds its size, until the user moves the view.
-TEST_F(ViewCommandsTest, FitAllShowsEveryPhaseAndFollowsTheCanvasUntilTheViewIsMoved) {
-    EXPECT_FALSE(AllPhasesShown());
-    EXPECT_TRUE(commands.Run(CommandId::ViewZoomFit));
-    EXPECT_TRUE(AllPhasesShown());
-    EXPECT_EQ(e.view.font, CanvasFontAt(e.view.scale, true));
-
-    e.weaver.CanvasResized(640, 400);
-    EXPECT_TRUE(AllPhasesShown());
-    commands.Run(CommandId::ViewZoomIn);
-    const ViewTransform zoomed = e.view;
-    e.weaver.CanvasResized(1024, 768);
-    EXPECT_EQ(e.view.viewX, zoomed.viewX);
-    EXPECT_EQ(e.view.scale, zoomed.scale);
-}
-
 TEST_F(ViewCommandsTest, FindGoesRoundTheMatchesOfNamesAndBlocksWithoutRegardToCase) {
     Finder& finder = commands.Find();
     finder.Search("CASE");

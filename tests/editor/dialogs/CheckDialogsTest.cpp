@@ -33,24 +33,6 @@ protected:
     test::SampleEditor e;
 };
 
-TEST(CalendarDateTest, FormatsAndReadsTheDayMonthYearForm) {
-    EXPECT_EQ(FormatDate(kDefaultCalendarDate), "20.07.1917");
-    EXPECT_EQ(FormatDate({3, 4, 812, Status::Valid}), "03.04.812");
-    EXPECT_EQ(FormatDate({3, 4, 1918, Status::Invalid}), "Invalid DateTime");
-    EXPECT_EQ(FormatDate({3, 4, 1918, Status::Null}), "");
-
-    CalendarDate date;
-    ASSERT_TRUE(ReadDayMonthYear("1.2.1916", date));
-    EXPECT_EQ(date, (CalendarDate{1, 2, 1916, Status::Valid}));
-    EXPECT_TRUE(ReadDayMonthYear("29.02.1916", date));
-    for (const char* bad :
-         {"29.02.1917", "31.02.1917", "31.04.1917", "0.1.1917", "20.13.1917", "20.07.1917x",
-          " 20.07.1917", "20/07/1917", "20.07.", "200.7.1917", "20.07.19170", ""}) {
-        EXPECT_FALSE(ReadDayMonthYear(bad, date)) << bad;
-        EXPECT_EQ(date, (CalendarDate{29, 2, 1916, Status::Valid})) << bad;
-    }
-}
-
 TEST_F(CheckDialogsTest, SquadOkChecksInOrderThenWritesBeforeTheRangeCheck) {
     Check& check = NewCheck({"$playersquad", "$date"});
     CheckSquadPropertiesDlg dlg(e.weaver, check);

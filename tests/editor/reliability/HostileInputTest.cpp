@@ -1,7 +1,7 @@
 // Files no one should ever write, read through the real open path: each must
 // be read to its end without a crash or a hang, keep what can be kept, and
 // cost no memory beyond its own size.
-#include "ScratchFolder.h"
+#include "support/ScratchFolder.h"
 #include "app/FileCommands.h"
 #include "document/TemplateReader.h"
 #include "platform/NativeFileSystem.h"

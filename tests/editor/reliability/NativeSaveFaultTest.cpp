@@ -3,7 +3,7 @@
 // while it writes. Windows has none of these calls.
 #ifndef _WIN32
 
-#include "ScratchFolder.h"
+#include "support/ScratchFolder.h"
 #include "app/FileCommands.h"
 #include "app/Weaver.h"
 #include "platform/MemoryOptionsStore.h"

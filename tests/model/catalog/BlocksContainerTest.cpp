@@ -3,8 +3,8 @@
 #include "platform/MemoryFileSystem.h"
 #include "platform/NativeFileSystem.h"
 #include "platform/RecordingPrompts.h"
+#include "support/ScratchFolder.h"
 
-#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -102,17 +102,14 @@ namespace {
 class NativeBlockFolder : public ::testing::Test {
 protected:
     void SetUp() override {
-        const auto stamp = std::chrono::steady_clock::now().time_since_epoch().count();
-        root =
-            std::filesystem::temp_directory_path() / ("loomwright-blocks-" + std::to_string(stamp));
         std::filesystem::create_directories(root / "blocks" / "sub");
         std::ofstream(root / "blocks" / "a.group") << kGate;
         std::ofstream(root / "blocks" / "sub" / "b.group") << kGate;
         files.SetBaseFolder(root.generic_string());
     }
-    void TearDown() override { std::filesystem::remove_all(root); }
 
-    std::filesystem::path root;
+    test::ScratchFolder scratch;
+    const std::filesystem::path& root = scratch.root;
     NativeFileSystem disk;
     FileAccess files{disk};
     RecordingPrompts prompts;

@@ -79,23 +79,3 @@ TEST_F(BlockReloaderTest, AnActionMovedIntoAFreedPlaceWaitsForTheNextReload) {
     EXPECT_EQ(store.FindObject(byHand->id), byHand);
     EXPECT_EQ(store.FindObject(orphan->id), orphan);
 }
-
-TEST_F(BlockReloaderTest, EveryBrokenLinkGoesInOneRunWithOneLineEach) {
-    Phase* a = AddPhase("A", "blocks\\gates.group");
-    Phase* b = AddPhase("B", "blocks\\gates.group");
-    const Link good{true, a->id, "out", b->id, "in"};
-    store.links = {
-        Link{true, a->id, "gone", b->id, "in"}, Link{true, a->id, "out", b->id, "gone"}, good,
-        Link{true, 99, "out", b->id, "in"},     Link{true, a->id, "out", 99, "in"},      good};
-
-    EXPECT_EQ(Reload(),
-              (Lines{"REMOVED: Link: From Phase: A To Phase: B because FROM phase "
-                     "doesn't have connection: gone",
-                     "REMOVED: Link: From Phase: A To Phase: B because TO phase "
-                     "doesn't have connection: gone",
-                     "REMOVED: Link: Wrong FROM_PHASE", "REMOVED: Link: Wrong TO_PHASE"}));
-    EXPECT_EQ(store.links, (std::vector<Link>{good, good}));
-    // The gates are marked anew from the links that remain.
-    EXPECT_FALSE(a->outputs.at(0).openMark);
-    EXPECT_TRUE(a->inputs.at(0).openMark);
-}

@@ -65,25 +65,6 @@ TEST_F(SelectionExportTest, LinksAndMembersSurviveOnlyBetweenSelectedObjects) {
     EXPECT_EQ(desc.cases[0].phaseNames, std::vector<std::string>{"Contact"});
 }
 
-TEST_F(SelectionExportTest, AnUnlinkerGoesOnceWithItsPhaseAndNeverAlone) {
-    Phase* contact = e.weaver.FindPhaseByName("Contact");
-    Unlinker* unlinker = e.weaver.NewUnlinker();
-    unlinker->phaseId = contact->id;
-    unlinker->inputGates = {"spotted"};
-
-    e.weaver.selection.Add(unlinker);
-    e.weaver.ExportSelection(kClip);
-    EXPECT_EQ(
-        e.prompts.MessageTexts(),
-        std::vector<std::string>{"Nothing to export. Select at least one phase, case or switch."});
-    EXPECT_EQ(e.DataFileText(kClip), "");
-
-    e.weaver.selection.Add(contact);
-    const TemplateDesc desc = Export();
-    ASSERT_EQ(desc.unlinks.size(), 1u);
-    EXPECT_EQ(desc.unlinks[0].gates, std::vector<std::string>{"spotted"});
-}
-
 TEST_F(SelectionExportTest, FailuresLeaveTheFileAsItWas) {
     e.disk.AddFile(std::string(test::SampleEditor::kData) + "/scg/clip.mt", "old");
     e.weaver.ExportSelection(kClip);

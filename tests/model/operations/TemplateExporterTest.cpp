@@ -95,48 +95,4 @@ TEST_F(TemplateExporterTest, ChecksOfMeasuredTypesNameThePrimaryLinkPhase) {
     EXPECT_EQ(inRadius->params, (Words{"other", "500"}));
 }
 
-TEST_F(TemplateExporterTest, UnlinkersNameTheBlockSetAndVanishWithoutGates) {
-    const std::int32_t phase = AddPhase("p")->id;
-    const auto addUnlinker = [&](const Words& inputs, const Words& outputs) {
-        Unlinker* unlinker = store.NewUnlinker();
-        unlinker->phaseId = phase;
-        unlinker->inputGates = inputs;
-        unlinker->outputGates = outputs;
-        unlinker->posX = unlinker->id;
-        return unlinker;
-    };
-    addUnlinker({"i1", "i2"}, {"o"});
-    addUnlinker({}, {});
-    addUnlinker({}, {"o2"});
-
-    const TemplateDesc desc = Export();
-    EXPECT_EQ(desc.unlinks, (std::vector<UnlinkDesc>{{true, "blocks_p", {"i1", "i2"}},
-                                                     {false, "blocks_p", {"o"}},
-                                                     {false, "blocks_p", {"o2"}}}));
-    EXPECT_EQ(HelperNames(desc), (Words{"p", "unlink_p", "unlink_p"}));
-    EXPECT_EQ(desc.guiHelpers[2].x, 4);
-}
-
-TEST_F(TemplateExporterTest, RecordsFollowObjectOrderAndHelpersGoKindByKind) {
-    Unlinker* unlinker = store.NewUnlinker();
-    Switch* aSwitch = store.NewSwitch();
-    Phase* second = AddPhase("second");
-    Check* check = store.NewCheck();
-    Action* action = store.NewAction();
-    Case* aCase = store.NewCase();
-    Phase* first = AddPhase("first");
-    Check* firstCheck = store.NewCheck();
-    unlinker->phaseId = check->phaseId = action->phaseId = second->id;
-    unlinker->outputGates = {"o"};
-    action->name = "act";
-    firstCheck->phaseId = first->id;
-
-    const TemplateDesc desc = Export();
-    EXPECT_EQ(desc.phases[0].name, "second");
-    EXPECT_EQ(desc.blockSets[1].name, "blocks_first");
-    EXPECT_EQ(desc.checks[1].phaseName, "first");
-    EXPECT_EQ(HelperNames(desc), (Words{"second", "first", aCase->name, aSwitch->name, "check",
-                                        "check", "act", "unlink_second"}));
-}
-
 } // namespace

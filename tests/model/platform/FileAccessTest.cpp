@@ -2,6 +2,7 @@
 
 #include "platform/MemoryFileSystem.h"
 #include "platform/NativeFileSystem.h"
+#include "support/ScratchFolder.h"
 
 #include <filesystem>
 #include <fstream>
@@ -47,27 +48,10 @@ TEST_F(FileAccessTest, AnExactNameWinsOverACaseInsensitiveOne) {
     EXPECT_EQ(Content(files, "scg\\Loomwright.ini"), "ini");
 }
 
-TEST_F(FileAccessTest, MissingNamesStayAsMappedAndDoNotOpen) {
-    EXPECT_EQ(files.Resolve("scg\\nothing\\x.mt"), "/home/Me/data/scg/nothing/x.mt");
-    EXPECT_EQ(Content(files, "scg\\nothing\\x.mt"), "<none>");
-    EXPECT_EQ(files.KindOf("scg\\nothing"), PathKind::Missing);
-}
-
 TEST_F(FileAccessTest, FoldersAreNotOpenedAsFilesAndUnreadableFilesFail) {
     EXPECT_EQ(Content(files, "scg"), "<none>");
     disk.MakeUnreadable("/home/Me/data/scg/Loomwright.ini");
     EXPECT_EQ(Content(files, "scg\\Loomwright.ini"), "<none>");
-}
-
-TEST_F(FileAccessTest, ListingsAreSortedByName) {
-    disk.AddFile("/home/Me/data/scg/0/Blocks/Air/Escort.Group", "");
-    disk.AddDirectory("/home/Me/data/scg/0/Blocks/Air/zeppelins");
-    const auto entries = files.ListDirectory("scg\\0\\blocks\\air");
-    ASSERT_EQ(entries.size(), 3u);
-    EXPECT_EQ(entries[0].name, "Escort.Group");
-    EXPECT_EQ(entries[1].name, "Patrol.Group");
-    EXPECT_EQ(entries[2].name, "zeppelins");
-    EXPECT_TRUE(entries[2].isDirectory);
 }
 
 // The data folder as the platform spells it (on Windows with its drive
@@ -76,8 +60,8 @@ TEST_F(FileAccessTest, ListingsAreSortedByName) {
 // the file system does that itself.
 TEST(NativeFileAccess, TheDataFolderInThePlatformsOwnSpellingFindsEveryName) {
     namespace fs = std::filesystem;
-    const fs::path root = fs::temp_directory_path() / "loomwright-native-access";
-    fs::remove_all(root);
+    const test::ScratchFolder scratch;
+    const fs::path& root = scratch.root;
     fs::create_directories(root / "Data" / "scg" / "Blocks");
     std::ofstream(root / "Data" / "scg" / "Blocks" / "Patrol.Group") << "patrol";
     NativeFileSystem disk;
@@ -93,7 +77,6 @@ TEST(NativeFileAccess, TheDataFolderInThePlatformsOwnSpellingFindsEveryName) {
     const std::vector<DirectoryEntry> listed = files.ListDirectory("Scg\\BLOCKS");
     ASSERT_EQ(listed.size(), 1u);
     EXPECT_EQ(listed[0].name, "Patrol.Group");
-    fs::remove_all(root);
 }
 
 // Drive letters and shares are absolute whichever separator they are

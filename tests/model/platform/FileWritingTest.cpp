@@ -1,13 +1,11 @@
 #include "platform/FileAccess.h"
 #include "platform/MemoryFileSystem.h"
 #include "platform/NativeFileSystem.h"
+#include "support/ScratchFolder.h"
 
-#include <algorithm>
-#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 using namespace lw;
 namespace fs = std::filesystem;
@@ -15,38 +13,15 @@ namespace fs = std::filesystem;
 namespace {
 
 using Names = std::vector<std::string>;
-
-std::string Bytes(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return in ? text.str() : "<none>";
-}
-
-// Every entry of a folder, hidden ones included, so a stray temporary shows.
-Names Listing(const fs::path& folder) {
-    Names names;
-    for (const auto& entry : fs::directory_iterator(folder))
-        names.push_back(entry.path().filename().u8string());
-    std::sort(names.begin(), names.end());
-    return names;
-}
+using test::DiskBytes;
+using test::FolderEntries;
 
 class NativeWriting : public ::testing::Test {
 protected:
-    void SetUp() override {
-        const auto stamp = std::chrono::steady_clock::now().time_since_epoch().count();
-        root = fs::temp_directory_path() / ("loomwright-writing-" + std::to_string(stamp));
-        fs::create_directories(root);
-    }
-    void TearDown() override {
-        for (const auto& entry : fs::recursive_directory_iterator(root))
-            fs::permissions(entry.path(), fs::perms::owner_all, fs::perm_options::add);
-        fs::remove_all(root);
-    }
-    std::string At(const std::string& name) const { return (root / name).generic_u8string(); }
+    std::string At(const std::string& name) const { return scratch.At(name); }
 
-    fs::path root;
+    test::ScratchFolder scratch;
+    const fs::path& root = scratch.root;
     NativeFileSystem disk;
 };
 
@@ -68,10 +43,10 @@ fs::perms Comparable(fs::perms permissions) {
 TEST_F(NativeWriting, ANewFileGetsItsBytesAndDefaultPermissions) {
     std::ofstream(root / "plain.txt") << "x";
     ASSERT_TRUE(disk.ReplaceFile(At("new.mt"), kContent));
-    EXPECT_EQ(Bytes(root / "new.mt"), kContent);
+    EXPECT_EQ(DiskBytes(root / "new.mt"), kContent);
     EXPECT_EQ(fs::status(root / "new.mt").permissions(),
               fs::status(root / "plain.txt").permissions());
-    EXPECT_EQ(Listing(root), (Names{"new.mt", "plain.txt"}));
+    EXPECT_EQ(FolderEntries(root), (Names{"new.mt", "plain.txt"}));
 }
 
 TEST_F(NativeWriting, AnExistingFileIsReplacedAndKeepsItsPermissions) {
@@ -79,9 +54,9 @@ TEST_F(NativeWriting, AnExistingFileIsReplacedAndKeepsItsPermissions) {
     const fs::perms kept = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
     fs::permissions(root / "a.mt", kept);
     ASSERT_TRUE(disk.ReplaceFile(At("a.mt"), "new"));
-    EXPECT_EQ(Bytes(root / "a.mt"), "new");
+    EXPECT_EQ(DiskBytes(root / "a.mt"), "new");
     EXPECT_EQ(Comparable(fs::status(root / "a.mt").permissions()), Comparable(kept));
-    EXPECT_EQ(Listing(root), (Names{"a.mt"}));
+    EXPECT_EQ(FolderEntries(root), (Names{"a.mt"}));
 }
 
 TEST_F(NativeWriting, MissingFoldersAndFolderTargetsAreRefused) {
@@ -90,8 +65,8 @@ TEST_F(NativeWriting, MissingFoldersAndFolderTargetsAreRefused) {
     EXPECT_FALSE(disk.ReplaceFile(At("sub"), "x"));
     EXPECT_FALSE(disk.IsReadOnly(At("sub")));
     EXPECT_FALSE(disk.IsReadOnly(At("missing.mt")));
-    EXPECT_EQ(Listing(root), (Names{"sub"}));
-    EXPECT_TRUE(Listing(root / "sub").empty());
+    EXPECT_EQ(FolderEntries(root), (Names{"sub"}));
+    EXPECT_TRUE(FolderEntries(root / "sub").empty());
 }
 
 #ifndef _WIN32
@@ -105,8 +80,8 @@ TEST_F(NativeWriting, SavingThroughALinkWritesTheFileItNames) {
         GTEST_SKIP() << "no symbolic links here: " << error.message();
     ASSERT_TRUE(disk.ReplaceFile(At("link.mt"), "new"));
     EXPECT_TRUE(fs::is_symlink(root / "link.mt"));
-    EXPECT_EQ(Bytes(root / "real.mt"), "new");
-    EXPECT_EQ(Listing(root), (Names{"link.mt", "real.mt"}));
+    EXPECT_EQ(DiskBytes(root / "real.mt"), "new");
+    EXPECT_EQ(FolderEntries(root), (Names{"link.mt", "real.mt"}));
 }
 
 TEST_F(NativeWriting, FileAccessWritesABackslashPathIntoMixedCaseFolders) {
@@ -118,8 +93,8 @@ TEST_F(NativeWriting, FileAccessWritesABackslashPathIntoMixedCaseFolders) {
     ASSERT_TRUE(files.ReplaceFile("scg\\templates\\New.mt", "made"));
     ASSERT_TRUE(files.ReplaceFile("SCG\\TEMPLATES\\old.mt", "replaced"));
     const fs::path folder = root / "Data" / "Scg" / "Templates";
-    EXPECT_EQ(Listing(folder), (Names{"New.mt", "Old.mt"}));
-    EXPECT_EQ(Bytes(folder / "New.mt"), "made");
-    EXPECT_EQ(Bytes(folder / "Old.mt"), "replaced");
-    EXPECT_EQ(Listing(root / "Data"), (Names{"Scg"}));
+    EXPECT_EQ(FolderEntries(folder), (Names{"New.mt", "Old.mt"}));
+    EXPECT_EQ(DiskBytes(folder / "New.mt"), "made");
+    EXPECT_EQ(DiskBytes(folder / "Old.mt"), "replaced");
+    EXPECT_EQ(FolderEntries(root / "Data"), (Names{"Scg"}));
 }

@@ -17,8 +17,8 @@ class ScratchFolder {
 public:
     ScratchFolder() {
         const auto stamp = std::chrono::steady_clock::now().time_since_epoch().count();
-        root = std::filesystem::temp_directory_path() /
-               ("loomwright-reliability-" + std::to_string(stamp));
+        root =
+            std::filesystem::temp_directory_path() / ("loomwright-test-" + std::to_string(stamp));
         std::filesystem::create_directories(root);
     }
     ~ScratchFolder() {
