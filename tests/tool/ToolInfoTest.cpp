@@ -51,6 +51,11 @@ TEST(ToolInfoTest, UsageErrorsExitWithTwo) {
     EXPECT_EQ(RunTool("frobnicate").status, 2);
     EXPECT_EQ(RunTool("info --data").status, 2);
     EXPECT_EQ(RunTool("info --bogus").status, 2);
+    for (const char* count : {"0", "12x", "99999999"}) {
+        const ToolRun run = RunTool(std::string("generate ") + count + " nowhere");
+        EXPECT_EQ(run.status, 2) << count;
+        EXPECT_NE(run.output.find("whole number from 1 to"), std::string::npos) << run.output;
+    }
     const ToolRun help = RunTool("--help");
     EXPECT_EQ(help.status, 0);
     EXPECT_NE(help.output.find("usage: loomwright-tool"), std::string::npos);

@@ -38,32 +38,6 @@ protected:
 
 } // namespace
 
-TEST_F(ToolRenderTest, DrawsTheRichSampleWhereThereIsNoDisplay) {
-    // A build server: no display, and a platform that would need one.
-    setenv("QT_QPA_PLATFORM", "xcb", 1);
-    unsetenv("DISPLAY");
-    const ToolRun run =
-        Render("", lw::test::SampleDataDir() + "/scg/sample_rich.mt", Path("rich.png"));
-    EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.output, "");
-    const QImage picture(QString::fromStdString(Path("rich.png")));
-    // From the switches' left edge at x -650 to the actions' right edge at
-    // 4080, and from the top action at y 165 to the lowest checks at 2387,
-    // with 20 pixels of margin all round.
-    EXPECT_EQ(picture.size(), QSize(4770, 2262));
-    EXPECT_EQ(QColor(picture.pixel(0, 0)), QColor(Qt::black));
-    int coloured = 0;
-    bool yellowPhase = false;
-    for (int y = 0; y < picture.height(); y += 3) {
-        for (int x = 0; x < picture.width(); x += 3) {
-            coloured += picture.pixel(x, y) != qRgb(255, 255, 255);
-            yellowPhase = yellowPhase || picture.pixel(x, y) == qRgb(255, 225, 135);
-        }
-    }
-    EXPECT_GT(coloured, picture.width() * picture.height() / 9 / 50) << "at least 2% drawn";
-    EXPECT_TRUE(yellowPhase);
-}
-
 // Each folder below cases/render holds input.mt, the options of the command
 // in an optional arguments.txt, and the expected.png it draws.
 TEST_F(ToolRenderTest, PicturesMatchTheirReferences) {

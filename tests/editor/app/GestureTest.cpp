@@ -41,22 +41,6 @@ protected:
 
 } // namespace
 
-TEST_F(GestureTest, APressOnASelectedObjectDragsTheWholeSelectionHiddenMembersToo) {
-    Phase* a = PhaseAt(weaver, "A", 0, 0);
-    Phase* c = PhaseAt(weaver, "C", 500, 0);
-    Phase* untouched = PhaseAt(weaver, "D", 1000, 0);
-    // Checks are hidden, so this one can't be hit, yet it stays selected.
-    Check* check = CheckOf(weaver, *a, CheckSquad, 66, 172);
-    for (EditorObject* object : Members{a, c, check})
-        Select(object);
-    DragThrough(600, 50, {{610, 60}});
-    EXPECT_EQ(Selected(), (Members{a, c, check}));
-    EXPECT_EQ(At(a), (Point{10, 10}));
-    EXPECT_EQ(At(c), (Point{510, 10}));
-    EXPECT_EQ(At(check), (Point{76, 182}));
-    EXPECT_EQ(At(untouched), (Point{1000, 0}));
-}
-
 // A link from A through B to C, and A's primary geometry line to T, which
 // crosses B 25 pixels above the link.
 TEST_F(GestureTest, DeleteTakesThePickedLinkThenThePickedGeometryLineThenTheSelection) {

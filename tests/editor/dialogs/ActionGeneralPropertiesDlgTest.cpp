@@ -68,23 +68,6 @@ TEST_F(ActionGeneralPropertiesDlgTest, PreviewFillsEveryPlaceholderAndIsStoredAs
     EXPECT_EQ(dialog.ruleList[1].texts[0], "set_value(Fuel,50);");
 }
 
-TEST_F(ActionGeneralPropertiesDlgTest, ConditionKeepsOnlyPiecesWithAnOperator) {
-    ActionGeneralPropertiesDlg dialog(e.weaver.ruleCatalogue, action);
-    const std::vector<std::pair<std::string, std::string>> cases = {
-        {"", ""},
-        {"ready", ""},
-        {"a>1;", "if(a>1); "},
-        {"a>1;;ready; b <\t2;", "if(a>1); if(b<2); "},
-        {"a!=b;c>=d;e<=f;g==h", "if(a!=b); if(c>=d); if(e<=f); if(g==h); "},
-        {"<", ""},
-        {"<;", "if(<); "},
-    };
-    for (const auto& [typed, expected] : cases) {
-        dialog.condition = typed;
-        EXPECT_EQ(dialog.BuildConditionText(), expected) << typed;
-    }
-}
-
 TEST_F(ActionGeneralPropertiesDlgTest, ComplexRulesBringTheirAddsOrAnImport) {
     ActionGeneralPropertiesDlg dialog(e.weaver.ruleCatalogue, action);
     Choose(dialog, "dawn_pack");

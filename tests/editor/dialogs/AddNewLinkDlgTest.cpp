@@ -25,20 +25,6 @@ protected:
     Phase& to = *e.weaver.NewPhase();
 };
 
-TEST_F(AddNewLinkDlgTest, BothConnectionsAreRequired) {
-    AddNewLinkDlg dialog(e.weaver, from, to, true);
-    EXPECT_FALSE(dialog.Ok(e.prompts));
-    dialog.fromCombo.SetCurrent(0);
-    EXPECT_FALSE(dialog.Ok(e.prompts));
-    dialog.fromCombo.SetCurrent(-1);
-    dialog.toCombo.SetCurrent(0);
-    EXPECT_FALSE(dialog.Ok(e.prompts));
-    EXPECT_EQ(e.prompts.MessageTexts(), Texts(3, "Select both connections!"));
-    EXPECT_EQ(e.prompts.Log().back().icon, MessageIcon::None);
-    EXPECT_EQ(e.prompts.Log().back().buttons, MessageButtons::OkCancel);
-    EXPECT_EQ(dialog.link, Link{});
-}
-
 TEST_F(AddNewLinkDlgTest, ASecondLinkOfTheSameKindIsRefused) {
     for (bool isObjectLink : {false, true}) {
         AddNewLinkDlg dialog(e.weaver, from, to, isObjectLink);

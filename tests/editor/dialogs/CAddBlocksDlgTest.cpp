@@ -33,15 +33,5 @@ TEST_F(AddBlocksTest, OffersTheCompatibleBlocksInKeyOrderWithTheMainBlockAmongTh
     EXPECT_TRUE(e.prompts.Log().empty());
 }
 
-TEST_F(AddBlocksTest, AnUnknownMainBlockOffersOnlyBlocksWithoutGatesOrObjects) {
-    const std::string bare = "scg\\0\\blocks\\naval\\bare.group";
-    BlockInfo withObject;
-    withObject.dynamics["Ship"] = {"Model"};
-    e.weaver.blockPool.Put(bare, BlockInfo{});
-    e.weaver.blockPool.Put("scg\\0\\blocks\\naval\\crew.group", withObject);
-    CAddBlocksDlg dialog(e.weaver.blockPool, "scg\\0\\blocks\\nowhere.group");
-    EXPECT_EQ(dialog.blockList.Texts(), Texts{bare});
-}
-
 } // namespace
 } // namespace lw

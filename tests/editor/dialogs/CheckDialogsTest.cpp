@@ -69,22 +69,6 @@ TEST_F(CheckDialogsTest, LocationTypeOkChecksInOrder) {
     EXPECT_TRUE(dlg.IsResultValid());
 }
 
-// Hidden boxes keep their captions and ticks, and OK writes them as well.
-TEST_F(CheckDialogsTest, LocationTypeHiddenBoxesAreTickedAndWritten) {
-    Check& check = NewCheck({"Decoration", "LandingSign"});
-    CheckLocationTypePropertiesDlg dlg(e.weaver, check);
-    dlg.typeCombo.SetCurrent(0);
-    dlg.OnTypeChanged();
-    EXPECT_FALSE(dlg.boxes[22].shown);
-    EXPECT_TRUE(dlg.boxes[22].ticked);
-    ASSERT_TRUE(dlg.Ok(e.prompts));
-    EXPECT_EQ(check.params, (Texts{"Airfield", "LandingSign"}));
-
-    Check& placeholder = NewCheck({"Airfield", "Check5"});
-    CheckLocationTypePropertiesDlg fresh(e.weaver, placeholder);
-    EXPECT_TRUE(fresh.boxes[4].ticked);
-}
-
 // A refused range is written all the same; text that is no number writes the
 // number last read.
 TEST_F(CheckDialogsTest, RangeWritesWhatTheValidationRefuses) {

@@ -46,24 +46,5 @@ TEST_F(DeleteLinksDlgTest, ALinkToItselfComesTwiceAndBothCanGo) {
     EXPECT_EQ(e.weaver.links.size(), 3u);
 }
 
-// A link to a phase that is gone has no row but keeps its entry, so the
-// rows after it take the entry before theirs.
-TEST_F(DeleteLinksDlgTest, RowsAfterALinkWithoutPhaseNoLongerLineUp) {
-    const Link dangling{true, phase.id, "out", 999, "in"};
-    const Link outward{true, phase.id, "out", other.id, "in"};
-    e.weaver.links = {dangling, outward};
-
-    DeleteLinksDlg dialog(e.weaver, phase);
-    EXPECT_EQ(dialog.shown, (Links{dangling, outward}));
-    ASSERT_EQ(dialog.linkView.size(), 1u);
-    EXPECT_EQ(dialog.linkView[0].texts[2], "Spoke");
-
-    dialog.linkView[0].selected = true;
-    dialog.OnDeleteSelected();
-    EXPECT_EQ(dialog.toDelete, Links{dangling});
-    EXPECT_EQ(dialog.shown, Links{outward});
-    EXPECT_TRUE(dialog.linkView.empty());
-}
-
 } // namespace
 } // namespace lw

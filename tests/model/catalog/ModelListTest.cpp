@@ -35,10 +35,3 @@ TEST(ModelList, ReadsTypesAndTheirModelsInFileOrder) {
     EXPECT_EQ(Describe(fighter.models[1]), "Fighter/Kestrel/");
     EXPECT_EQ(list.parseState, 0);
 }
-
-TEST(ModelList, ASecondTypeOfTheSameNameReplacesTheFirst) {
-    const ModelList list = Read("Type\n{\nName = Boat;\nModel\n{\nName = a;\n}\n}\n"
-                                "Type\n{\nName = Boat;\nModel\n{\nName = b;\n}\n}\n");
-    ASSERT_EQ(list.types.at("Boat").models.size(), 1u);
-    EXPECT_EQ(list.types.at("Boat").models[0].name, "b");
-}

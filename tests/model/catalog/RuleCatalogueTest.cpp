@@ -43,12 +43,3 @@ TEST(RuleCatalogue, ReadsFieldsFlagsAndAddBlocks) {
     EXPECT_EQ(rule.adds[1].condition, "if(z); ");
     EXPECT_EQ(catalogue.parseState, 0);
 }
-
-TEST(RuleCatalogue, FindRuleTakesTheFirstOfAnExactName) {
-    const RuleCatalogue catalogue =
-        Read("Action\n{\nName = r;\nComment = first;\n}\nAction\n{\nName = r;\n}\n");
-    ASSERT_NE(catalogue.FindRule("r"), nullptr);
-    EXPECT_EQ(catalogue.FindRule("r")->comment, "first");
-    EXPECT_EQ(catalogue.FindRule("R"), nullptr);
-    EXPECT_TRUE(Read("").rules.empty());
-}
