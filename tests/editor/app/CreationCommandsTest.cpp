@@ -121,37 +121,6 @@ TEST_F(CreationCommandsTest, TheReleasePlacesThePhaseWithAnActionForEachBlockPro
     EXPECT_EQ(At(weaver.FindObject(3)), (Point{366, -154}));
 }
 
-TEST_F(CreationCommandsTest, AddSwitchRefusesANumberAboveItsCases) {
-    Case* first = CaseAt(weaver, "C1", 0, 0);
-    Case* second = CaseAt(weaver, "C2", 200, 0);
-    Case* taken = CaseAt(weaver, "C3", 400, 0);
-    taken->switchId = weaver.NewSwitch()->id;
-    Select(first);
-    Select(second);
-    Select(taken);
-
-    const auto members = [](std::int32_t number) {
-        return [number](DialogCall& call) {
-            As<Switch>(call.object)->caseIds = call.firstMembers;
-            As<Switch>(call.object)->number = number;
-        };
-    };
-    Answer(true, members(3));
-    Answer(true, members(2));
-    weaver.AddSwitch();
-    EXPECT_EQ(weaver.FindObject(5), nullptr);
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
-    weaver.AddSwitch();
-
-    EXPECT_EQ(shown[0].firstMembers, (Ids{first->id, second->id}));
-    ASSERT_NE(weaver.pendingSwitch, nullptr);
-    EXPECT_EQ(weaver.pendingSwitch->name, "switch6");
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StatePlaceSwitch);
-    ClickAt(700, 300);
-    EXPECT_EQ(At(weaver.FindObject(6)), (Point{700, 300}));
-    EXPECT_TRUE(HistoryEndsWith<UR_AddNewSwitchCmd>(1));
-}
-
 TEST_F(CreationCommandsTest, AddCheckPrefillsByTypeAndStacksTheChecksUnderThePhase) {
     Phase* phase = PhaseAt(weaver, "P", 100, 200);
     weaver.AddCheck(CheckRange);

@@ -59,36 +59,10 @@ TEST_F(ReloadBlocksTest, RepairsTheDocumentAndOpensTheLog) {
     Weaver& weaver = editor.weaver;
     weaver.ReloadBlocks();
 
-    EXPECT_EQ(editor.DataFileText(Weaver::kReloadLogPath),
-              "# Loomwright Reload Blocks \"on the fly\" log file\r\n"
-              "\r\n"
-              "OK: default blocks reloaded\r\n"
-              "\r\n"
-              "Reloading all phases blocks if they are not in default blocks pool.\r\n"
-              "ERROR: can't load block \"main\" from group file "
-              "\"scg\\0\\blocks\\air\\landing.group\" PHASE: ReturnHome\r\n"
-              "Finished reloading phases blocks which are not in default blocks pool.\r\n"
-              "\r\n"
-              "Update phases inputs and outputs.\r\n"
-              "ERROR: PHASE: ReturnHome has no blocks!\r\n"
-              "Finished updating phases inputs and outputs.\r\n"
-              "\r\n"
-              "Update phases actions.\r\n"
-              "ADDED: Action Speed:PatrolLead to PHASE: PatrolStart\r\n"
-              "REMOVED: Action: Altitude:PatrolLead from PHASE: PatrolStart\r\n"
-              "Finished updating phases actions.\r\n"
-              "\r\n"
-              "Update links.\r\n"
-              "REMOVED: Link: From Phase: PatrolStart To Phase: Contact because FROM phase "
-              "doesn't have connection: spotted\r\n"
-              "REMOVED: Link: From Phase: PatrolStart To Phase: ReturnHome because TO phase "
-              "doesn't have connection: OBJECT_plane\r\n"
-              "REMOVED: Link: From Phase: Contact To Phase: ReturnHome because TO phase "
-              "doesn't have connection: done\r\n"
-              "REMOVED: Link: From Phase: Sighting To Phase: ReturnHome because TO phase "
-              "doesn't have connection: failed\r\n"
-              "Finished updating links.\r\n"
-              "\r\n");
+    // The log's lines are the reload cases' (tests/cases/reload); here it
+    // matters that the editor writes it where it opens it.
+    EXPECT_NE(editor.DataFileText(Weaver::kReloadLogPath).find("REMOVED: Action: Altitude"),
+              std::string::npos);
     EXPECT_EQ(editor.host.openedFiles, std::vector<std::string>{kLogFile});
 
     // A phase left without blocks stays.

@@ -59,31 +59,6 @@ TEST(ObjectStoreTest, LookupsFindTheFirstInListOrderAlsoAfterARestore) {
     EXPECT_EQ(store.nextId, 3);
 }
 
-TEST(ObjectStoreTest, ActionsAreFoundByTheirNamesAndTheirPhasesName) {
-    ObjectStore store;
-    Phase* phase = store.NewPhase();
-    phase->name = "p";
-    Action* orphan = store.NewAction();
-    orphan->objectName = "Plane";
-    orphan->name = "Skin";
-    Action* action = store.NewAction();
-    action->phaseId = phase->id;
-    action->objectName = "Plane";
-    action->name = "Skin";
-    EXPECT_EQ(store.FindActionOf("p", "Plane", "Skin"), action);
-    EXPECT_EQ(store.FindActionOf("q", "Plane", "Skin"), nullptr);
-    // The phase is looked up in the whole store also when a list is given.
-    ObjectList list{action};
-    EXPECT_EQ(store.FindActionOf("p", "Plane", "Skin", &list), action);
-
-    phase->AddActionId(orphan->id);
-    phase->AddActionId(999);
-    phase->AddActionId(action->id);
-    EXPECT_TRUE(store.HasPhaseAction(*phase, "Skin", "Plane"));
-    EXPECT_FALSE(store.HasPhaseAction(*phase, "Skin", "Ship"));
-    EXPECT_TRUE(store.HasPhaseAction(*phase, "Script", "anything"));
-}
-
 TEST(ObjectStoreTest, GateMarksFollowTheLinks) {
     ObjectStore store;
     Phase* from = store.NewPhase();
