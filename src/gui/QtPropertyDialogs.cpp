@@ -49,12 +49,12 @@ template <typename View, typename Form> bool QtPropertyDialogs::RunChecked(Form&
 }
 
 template <typename View, typename Form> bool QtPropertyDialogs::EditCheckWith(lw::Check& check) {
-    Form form(weaver_, check);
+    Form form(check);
     return RunChecked<View>(form);
 }
 
 bool QtPropertyDialogs::EditPhase(lw::Phase& phase) {
-    lw::CPhasePropertiesDlg form(weaver_, phase);
+    lw::CPhasePropertiesDlg form(weaver_, weaver_.blockPool, weaver_.blockFolders, phase);
     QtPhaseSubDialogs subDialogs(runner_, prompts_, parent_);
     QtPhasePropertiesDlg view(form, subDialogs, prompts_, parent_);
     return runner_.Run(view) && form.IsResultValid();
@@ -80,7 +80,7 @@ bool QtPropertyDialogs::EditUnlinker(lw::Unlinker& unlinker, std::int32_t presel
 bool QtPropertyDialogs::EditCheck(lw::Check& check) {
     switch (check.type) {
     case lw::CheckSquad: {
-        lw::CheckSquadPropertiesDlg form(weaver_, check, QtDateReader());
+        lw::CheckSquadPropertiesDlg form(check, QtDateReader());
         return RunChecked<QtCheckSquadPropertiesDlg>(form);
     }
     case lw::CheckLocationType:
@@ -104,11 +104,11 @@ bool QtPropertyDialogs::EditCheck(lw::Check& check) {
 bool QtPropertyDialogs::EditAction(lw::Action& action, lw::ActionDialog dialog) {
     switch (dialog) {
     case lw::ActionDialog::Skin: {
-        lw::ActionSkinPropertiesDlg form(weaver_, action);
+        lw::ActionSkinPropertiesDlg form(action);
         return Run<QtActionSkinPropertiesDlg>(form);
     }
     case lw::ActionDialog::Country: {
-        lw::ActionCountryPropertiesDlg form(weaver_, action);
+        lw::ActionCountryPropertiesDlg form(action);
         return Run<QtActionCountryPropertiesDlg>(form);
     }
     case lw::ActionDialog::Model: {

@@ -11,7 +11,7 @@ const std::vector<std::string>& CountryTexts() {
 
 } // namespace
 
-ActionCountryPropertiesDlg::ActionCountryPropertiesDlg(Weaver& /*weaver*/, Action& action)
+ActionCountryPropertiesDlg::ActionCountryPropertiesDlg(Action& action)
     : SingleRuleComboDlg(action, "set_country", "Country Type must be selected!") {
     Start(countryCombo, CountryTexts());
 }

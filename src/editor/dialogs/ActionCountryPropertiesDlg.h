@@ -4,15 +4,13 @@
 
 namespace lw {
 
-class Weaver;
-
 // "Country Action Properties": the side an action puts its object on, as its
 // one "set_country" rule.
 class ActionCountryPropertiesDlg : public SingleRuleComboDlg {
 public:
     static constexpr const char* kTitle = "Country Action Properties";
 
-    ActionCountryPropertiesDlg(Weaver& weaver, Action& action);
+    ActionCountryPropertiesDlg(Action& action);
 
     bool Ok(UserPrompts& prompts) { return Write(countryCombo, prompts); }
 

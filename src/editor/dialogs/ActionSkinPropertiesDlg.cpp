@@ -52,7 +52,7 @@ const std::vector<std::string>& SkinTexts() {
 
 } // namespace
 
-ActionSkinPropertiesDlg::ActionSkinPropertiesDlg(Weaver& /*weaver*/, Action& action)
+ActionSkinPropertiesDlg::ActionSkinPropertiesDlg(Action& action)
     : SingleRuleComboDlg(action, "set_skin", "Skin Type must be selected!") {
     Start(skinCombo, SkinTexts());
 }

@@ -4,15 +4,13 @@
 
 namespace lw {
 
-class Weaver;
-
 // "Action Skin Property": the skin an action gives, as its one "set_skin"
 // rule.
 class ActionSkinPropertiesDlg : public SingleRuleComboDlg {
 public:
     static constexpr const char* kTitle = "Action Skin Property";
 
-    ActionSkinPropertiesDlg(Weaver& weaver, Action& action);
+    ActionSkinPropertiesDlg(Action& action);
 
     bool Ok(UserPrompts& prompts) { return Write(skinCombo, prompts); }
 

@@ -1,6 +1,6 @@
 #include "dialogs/CPhasePropertiesDlg.h"
 
-#include "app/Weaver.h"
+#include "catalog/BlocksContainer.h"
 #include "dialogs/AzimuthAdditionalDlg.h"
 #include "dialogs/CAddBlocksDlg.h"
 #include "dialogs/GeometryAspectDlg.h"
@@ -9,6 +9,7 @@
 #include "document/Keywords.h"
 #include "document/TemplateDesc.h"
 #include "operations/Acceptance.h"
+#include "operations/ObjectStore.h"
 
 namespace lw {
 
@@ -73,8 +74,9 @@ std::string CPhasePropertiesDlg::AdditionalBlockKey(const std::string& reference
     return BaseName(reference) + "_" + static_cast<char>('a' + index);
 }
 
-CPhasePropertiesDlg::CPhasePropertiesDlg(Weaver& weaver, Phase& phase)
-    : weaver_(weaver), phase_(phase) {
+CPhasePropertiesDlg::CPhasePropertiesDlg(const ObjectStore& document, const BlocksContainer& blocks,
+                                         const std::vector<std::string>& blockFolders, Phase& phase)
+    : document_(document), blocks_(blocks), blockFolders_(blockFolders), phase_(phase) {
     name = phase_.name;
     folderChecked = !phase_.blocksFolder.empty();
     ReloadBlockLists();
@@ -109,7 +111,7 @@ void CPhasePropertiesDlg::FillAdditionalList() {
 
 // Every phase, this one included, can be chosen as a link.
 void CPhasePropertiesDlg::FillLinkCombos() {
-    weaver_.ForEach<Phase>([this](const Phase& each) {
+    document_.ForEach<Phase>([this](const Phase& each) {
         primaryCombo.Add(each.name);
         secondaryCombo.Add(each.name);
     });
@@ -129,9 +131,9 @@ void CPhasePropertiesDlg::ReloadBlockLists() {
     additionalList.Clear();
     mainBlockCombo.Clear();
     ShowBlockControls();
-    for (const std::string& folder : weaver_.blockFolders)
+    for (const std::string& folder : blockFolders_)
         folderCombo.Add(folder);
-    for (const auto& block : weaver_.blockPool.blocks)
+    for (const auto& block : blocks_.blocks)
         mainBlockCombo.Add(block.first);
     if (!phase_.blocks.empty()) {
         mainBlockCombo.SelectByText(phase_.blocks.begin()->second);
@@ -161,7 +163,7 @@ void CPhasePropertiesDlg::RefreshConnectors() {
     const std::string mainBlock = mainBlockCombo.Text();
     if (mainBlock.empty())
         return;
-    const BlockInfo info = weaver_.blockPool.GetBlock(mainBlock);
+    const BlockInfo info = blocks_.GetBlock(mainBlock);
     for (const std::string& input : info.inputs)
         inputList.Add(input);
     for (const std::string& output : info.outputs)
@@ -197,7 +199,7 @@ void CPhasePropertiesDlg::SelectAllocation() {
 }
 
 void CPhasePropertiesDlg::SelectLink(ComboField& combo, int linkId) {
-    const Phase* linked = weaver_.FindPhase(linkId);
+    const Phase* linked = document_.FindPhase(linkId);
     if (linked == nullptr || !combo.SelectByText(linked->name))
         combo.SetCurrent(-1);
 }
@@ -225,7 +227,7 @@ void CPhasePropertiesDlg::OnMainBlockChanged() {
 void CPhasePropertiesDlg::OnFolderChanged() {
     phase_.blocksFolder = folderCombo.Text();
     // A folder without blocks adds an empty entry, so no main block shows.
-    const std::string first = weaver_.blockPool.FirstBlockInFolder(phase_.blocksFolder);
+    const std::string first = blocks_.FirstBlockInFolder(phase_.blocksFolder);
     mainBlockCombo.SetCurrent(mainBlockCombo.Add(first));
     OnMainBlockChanged();
 }
@@ -252,7 +254,7 @@ void CPhasePropertiesDlg::OnAddBlocks(PhaseSubDialogs& sub) {
     const std::string mainBlock = mainBlockCombo.Text();
     if (mainBlock.empty())
         return;
-    CAddBlocksDlg dialog(weaver_.blockPool, mainBlock);
+    CAddBlocksDlg dialog(blocks_, mainBlock);
     if (!sub.Run(dialog))
         return;
     for (const std::string& reference : dialog.chosen)
@@ -310,7 +312,7 @@ const char* CPhasePropertiesDlg::FirstFailedCheck() const {
     const std::string secondary = secondaryCombo.Text();
     if (name.empty())
         return "Empty phase name!";
-    if (weaver_.PhaseNameTaken(phase_.id, name))
+    if (document_.PhaseNameTaken(phase_.id, name))
         return "Phase name is used by other phase!";
     if (mainBlockCombo.Text().empty())
         return "Phase main blocks set must be selected!";
@@ -334,7 +336,7 @@ bool CPhasePropertiesDlg::Ok(UserPrompts& prompts) {
         return Refuse(prompts, failure);
     phase_.name = name;
     WriteBlocks();
-    const BlockInfo mainBlock = weaver_.blockPool.GetBlock(mainBlockCombo.Text());
+    const BlockInfo mainBlock = blocks_.GetBlock(mainBlockCombo.Text());
     WriteGates(mainBlock);
     phase_.generationType = Generation();
     WriteAllocation();
@@ -387,7 +389,7 @@ void CPhasePropertiesDlg::WriteLinks() {
     const int g = Generation();
     auto linkedId = [this](const ComboField& combo, std::int32_t current) {
         const std::string text = combo.Text();
-        const Phase* linked = text.empty() ? nullptr : weaver_.FindPhaseByName(text);
+        const Phase* linked = text.empty() ? nullptr : document_.FindPhaseByName(text);
         return linked != nullptr ? linked->id : current;
     };
     phase_.primaryLinkId = HasPrimaryLink(g) ? linkedId(primaryCombo, phase_.primaryLinkId) : 0;
@@ -402,7 +404,7 @@ void CPhasePropertiesDlg::WriteGeometry() {
 }
 
 bool CPhasePropertiesDlg::IsResultValid() const {
-    return IsAcceptable(weaver_, phase_);
+    return IsAcceptable(document_, phase_);
 }
 
 } // namespace lw

@@ -10,9 +10,10 @@
 namespace lw {
 
 class BlockInfo;
+class BlocksContainer;
+class ObjectStore;
 class Phase;
 class PhaseSubDialogs;
-class Weaver;
 
 // "Phase Properties": the one place where a phase gets its blocks, how it is
 // generated and allocated, its geometry links and its colour. It edits the
@@ -36,7 +37,9 @@ public:
     // file's base name, "_" and a letter counted on from "a".
     static std::string AdditionalBlockKey(const std::string& reference, int index);
 
-    CPhasePropertiesDlg(Weaver& weaver, Phase& phase);
+    // The phase's document, the block pool and the folders it was read from.
+    CPhasePropertiesDlg(const ObjectStore& document, const BlocksContainer& blocks,
+                        const std::vector<std::string>& blockFolders, Phase& phase);
 
     void OnMainBlockChanged();
     void OnFolderChanged();
@@ -104,7 +107,9 @@ private:
     void WriteLinks();
     void WriteGeometry();
 
-    Weaver& weaver_;
+    const ObjectStore& document_;
+    const BlocksContainer& blocks_;
+    const std::vector<std::string>& blockFolders_;
     Phase& phase_;
 };
 

@@ -4,8 +4,7 @@
 
 namespace lw {
 
-CheckCoalitionPropertiesDlg::CheckCoalitionPropertiesDlg(Weaver& /*weaver*/, Check& check)
-    : check_(check) {
+CheckCoalitionPropertiesDlg::CheckCoalitionPropertiesDlg(Check& check) : check_(check) {
     if (check.params.empty())
         return;
     const std::string& word = check.params[0];

@@ -5,15 +5,13 @@
 
 namespace lw {
 
-class Weaver;
-
 // "Coalition Check": which sides the phase may belong to, stored as one word
 // of the letters "f", "e" and "n", or no text at all for none.
 class CheckCoalitionPropertiesDlg {
 public:
     static constexpr const char* kTitle = "Coalition Check";
 
-    CheckCoalitionPropertiesDlg(Weaver& weaver, Check& check);
+    CheckCoalitionPropertiesDlg(Check& check);
 
     // Writes the word; no box ticked is accepted and leaves `params` empty.
     bool Ok(UserPrompts& prompts);

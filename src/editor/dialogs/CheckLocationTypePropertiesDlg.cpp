@@ -79,8 +79,7 @@ constexpr int kAirfield = 0;
 
 } // namespace
 
-CheckLocationTypePropertiesDlg::CheckLocationTypePropertiesDlg(Weaver& /*weaver*/, Check& check)
-    : check_(check) {
+CheckLocationTypePropertiesDlg::CheckLocationTypePropertiesDlg(Check& check) : check_(check) {
     for (int i = 0; i < kBoxCount; ++i)
         boxes[i].caption = "Check" + std::to_string(i + 1);
     for (const LocationType& type : LocationTypes())

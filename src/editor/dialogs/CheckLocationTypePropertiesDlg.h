@@ -9,8 +9,6 @@
 
 namespace lw {
 
-class Weaver;
-
 // "Location Type Check": a location type and the kinds of it the phase may
 // stand on. The kinds are a column of check boxes whose captions are the very
 // texts stored after the type.
@@ -25,7 +23,7 @@ public:
         bool ticked = false;
     };
 
-    CheckLocationTypePropertiesDlg(Weaver& weaver, Check& check);
+    CheckLocationTypePropertiesDlg(Check& check);
 
     // After the user chose another entry of "Location Type:". Ticks of the
     // previous type fall away unless the stored `params` name them.

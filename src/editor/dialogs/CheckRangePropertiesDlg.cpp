@@ -16,7 +16,7 @@ constexpr std::int32_t kMaxRange = 1000000;
 
 } // namespace
 
-CheckRangePropertiesDlg::CheckRangePropertiesDlg(Weaver& /*weaver*/, Check& check) : check_(check) {
+CheckRangePropertiesDlg::CheckRangePropertiesDlg(Check& check) : check_(check) {
     const auto& params = check.params;
     if (params.size() > 1)
         closest = params[1] != kAtMode;

@@ -8,8 +8,6 @@
 
 namespace lw {
 
-class Weaver;
-
 // "Range Check": how far from the phase of the primary link, either exactly
 // at a range or the closest place not closer than it. A range of -1 leaves it
 // to the mission's parameter.
@@ -20,7 +18,7 @@ class CheckRangePropertiesDlg {
 public:
     static constexpr const char* kTitle = "Range Check";
 
-    CheckRangePropertiesDlg(Weaver& weaver, Check& check);
+    CheckRangePropertiesDlg(Check& check);
 
     // After the user set or cleared "Use Parameter ($checkrange)".
     void OnUseParameterClicked();

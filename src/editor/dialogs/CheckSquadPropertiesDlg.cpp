@@ -14,7 +14,7 @@ constexpr std::int32_t kMaxSquadId = 1000000;
 
 } // namespace
 
-CheckSquadPropertiesDlg::CheckSquadPropertiesDlg(Weaver& /*weaver*/, Check& check, DateReader read)
+CheckSquadPropertiesDlg::CheckSquadPropertiesDlg(Check& check, DateReader read)
     : check_(check), read_(std::move(read)) {
     squadId.digitsOnly = true;
     LoadSquad();

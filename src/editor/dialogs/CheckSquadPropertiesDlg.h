@@ -9,8 +9,6 @@
 
 namespace lw {
 
-class Weaver;
-
 // "Check Squad": the squad the phase is for, by number or the player's own,
 // and the date it is checked on, a fixed day or the server's.
 //
@@ -25,7 +23,7 @@ public:
 
     // `read` turns a stored date into the calendar's; it is also the test of
     // a stored date in IsResultValid.
-    CheckSquadPropertiesDlg(Weaver& weaver, Check& check, DateReader read = ReadDayMonthYear);
+    CheckSquadPropertiesDlg(Check& check, DateReader read = ReadDayMonthYear);
 
     // After the user set or cleared "Use '$playersquad'".
     void OnUsePlayerSquadClicked();

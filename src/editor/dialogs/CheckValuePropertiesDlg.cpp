@@ -29,10 +29,10 @@ bool CheckValuePropertiesDlg::IsResultValid() const {
 
 // The editors are handed the document as every property dialog is; these
 // need only the check.
-CheckInRadiusPropertiesDlg::CheckInRadiusPropertiesDlg(Weaver& /*weaver*/, Check& check)
+CheckInRadiusPropertiesDlg::CheckInRadiusPropertiesDlg(Check& check)
     : CheckValuePropertiesDlg(check, kMaxRadius) {}
 
-CheckInSectorPropertiesDlg::CheckInSectorPropertiesDlg(Weaver& /*weaver*/, Check& check)
+CheckInSectorPropertiesDlg::CheckInSectorPropertiesDlg(Check& check)
     : CheckValuePropertiesDlg(check, kMaxArc) {}
 
 } // namespace lw

@@ -8,8 +8,6 @@
 
 namespace lw {
 
-class Weaver;
-
 // The editors of a check measured from its phase's primary link that hold a
 // single number after the first text, "In Radius Check" and "In Sector
 // Check". They differ only in title and the range of the number.
@@ -45,7 +43,7 @@ public:
     static constexpr const char* kTitle = "In Radius Check";
     static constexpr std::int32_t kMaxRadius = 1000000;
 
-    CheckInRadiusPropertiesDlg(Weaver& weaver, Check& check);
+    CheckInRadiusPropertiesDlg(Check& check);
 
     // In metres.
     NumberField& radius = value_;
@@ -56,7 +54,7 @@ public:
     static constexpr const char* kTitle = "In Sector Check";
     static constexpr std::int32_t kMaxArc = 359;
 
-    CheckInSectorPropertiesDlg(Weaver& weaver, Check& check);
+    CheckInSectorPropertiesDlg(Check& check);
 
     // In degrees.
     NumberField& arc = value_;

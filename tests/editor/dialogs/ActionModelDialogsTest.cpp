@@ -27,7 +27,7 @@ protected:
 
 TEST_F(ActionModelDialogsTest, SkinAndCountryOkRefuseNoChoiceThenKeepOneRuleAndItsCondition) {
     Action& skinAction = MakeAction({{"set_skin", {"unknown"}, ""}, {"second", {"a"}, "b"}});
-    ActionSkinPropertiesDlg skin(e.weaver, skinAction);
+    ActionSkinPropertiesDlg skin(skinAction);
     EXPECT_EQ(skin.skinCombo.Current(), -1) << "a stored word not in the list";
     EXPECT_FALSE(skin.Ok(e.prompts));
     EXPECT_EQ(skinAction.rules.size(), 2u) << "nothing written";
@@ -37,7 +37,7 @@ TEST_F(ActionModelDialogsTest, SkinAndCountryOkRefuseNoChoiceThenKeepOneRuleAndI
 
     Action& countryAction =
         MakeAction({{"old_rule", {"enemy", "x", "y"}, "cond"}, {"second", {}, ""}});
-    ActionCountryPropertiesDlg country(e.weaver, countryAction);
+    ActionCountryPropertiesDlg country(countryAction);
     country.countryCombo.SetCurrent(-1);
     EXPECT_FALSE(country.Ok(e.prompts));
     EXPECT_EQ(countryAction.rules.size(), 2u);

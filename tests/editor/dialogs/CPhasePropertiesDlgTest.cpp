@@ -52,6 +52,9 @@ class PhaseDialogTest : public ::testing::Test {
 protected:
     PhaseDialogTest() { e.Open("scg\\sample_rich.mt"); }
 
+    static CPhasePropertiesDlg Dialog(Weaver& weaver, Phase& phase) {
+        return {weaver, weaver.blockPool, weaver.blockFolders, phase};
+    }
     Phase& Named(const std::string& name) { return *e.weaver.FindPhaseByName(name); }
     std::string LastMessage() const { return e.prompts.MessageTexts().back(); }
     static void SetGeneration(CPhasePropertiesDlg& dialog, int type) {
@@ -70,7 +73,7 @@ protected:
 TEST_F(PhaseDialogTest, OkChecksRunInOrderAndWriteNothingWhenOneFails) {
     Phase& phase = *e.weaver.NewPhase();
     const std::string stored = phase.name;
-    CPhasePropertiesDlg dialog(e.weaver, phase);
+    CPhasePropertiesDlg dialog = Dialog(e.weaver, phase);
     auto refused = [&](const char* message) {
         EXPECT_FALSE(dialog.Ok(e.prompts));
         EXPECT_EQ(LastMessage(), message);
@@ -112,7 +115,7 @@ TEST_F(PhaseDialogTest, OkChecksRunInOrderAndWriteNothingWhenOneFails) {
 
 TEST_F(PhaseDialogTest, TheLinkChecksCompareWithTheStoredName) {
     Phase& escort = Named("EscortLeg");
-    CPhasePropertiesDlg dialog(e.weaver, escort);
+    CPhasePropertiesDlg dialog = Dialog(e.weaver, escort);
     dialog.name = "EscortRenamed";
     dialog.primaryCombo.SetEditText("EscortLeg");
     EXPECT_FALSE(dialog.Ok(e.prompts));
@@ -147,7 +150,7 @@ TEST_F(PhaseDialogTest, OkWritesWhatEachGenerationTypeCarries) {
         fresh.Open("scg\\sample_rich.mt");
         Phase& phase = *fresh.weaver.FindPhaseByName("FrontSector");
         const Phase before = phase;
-        CPhasePropertiesDlg dialog(fresh.weaver, phase);
+        CPhasePropertiesDlg dialog = Dialog(fresh.weaver, phase);
         SetGeneration(dialog, c.type);
         if (c.allocationIndex >= 0)
             dialog.allocationCombo.SetCurrent(c.allocationIndex);
@@ -163,7 +166,7 @@ TEST_F(PhaseDialogTest, OkWritesWhatEachGenerationTypeCarries) {
 TEST_F(PhaseDialogTest, GatesAndPropertiesComeFromTheMainBlockAlone) {
     const BlockInfo patrol = e.weaver.blockPool.GetBlock(kPatrol);
     Phase& phase = *e.weaver.NewPhase();
-    CPhasePropertiesDlg dialog(e.weaver, phase);
+    CPhasePropertiesDlg dialog = Dialog(e.weaver, phase);
     ChooseMainBlock(dialog, kPatrol);
     dialog.additionalList.Add("scg\\0\\blocks\\air\\playerflight.group");
     dialog.colorCombo.SetCurrent(6);
@@ -178,7 +181,7 @@ TEST_F(PhaseDialogTest, GatesAndPropertiesComeFromTheMainBlockAlone) {
     Phase& recon = Named("ReconSweep");
     recon.blockProperties = {{"Kept", {"Model"}}};
     recon.inputs[0].openMark = false;
-    CPhasePropertiesDlg edit(e.weaver, recon);
+    CPhasePropertiesDlg edit = Dialog(e.weaver, recon);
     ASSERT_TRUE(edit.Ok(e.prompts));
     EXPECT_EQ(recon.blockProperties.count("Kept"), 1u);
     EXPECT_TRUE(recon.inputs[0].openMark);
@@ -186,7 +189,7 @@ TEST_F(PhaseDialogTest, GatesAndPropertiesComeFromTheMainBlockAlone) {
 
 TEST_F(PhaseDialogTest, AllocationFollowsTheGenerationType) {
     Phase& phase = *e.weaver.NewPhase();
-    CPhasePropertiesDlg dialog(e.weaver, phase);
+    CPhasePropertiesDlg dialog = Dialog(e.weaver, phase);
     ChooseMainBlock(dialog, kPatrol);
     SetGeneration(dialog, 6);
     EXPECT_EQ(dialog.allocationCombo.Current(), -1) << "the default is no waypoint gate";
@@ -203,7 +206,7 @@ TEST_F(PhaseDialogTest, AllocationFollowsTheGenerationType) {
 
     // Reopened, an empty allocation selects nothing, so that OK writes back
     // the empty text rather than the first entry.
-    CPhasePropertiesDlg again(e.weaver, phase);
+    CPhasePropertiesDlg again = Dialog(e.weaver, phase);
     EXPECT_EQ(again.allocationCombo.Current(), -1);
     ASSERT_TRUE(again.Ok(e.prompts));
     EXPECT_EQ(phase.allocationType, "");
@@ -211,7 +214,7 @@ TEST_F(PhaseDialogTest, AllocationFollowsTheGenerationType) {
 
 TEST_F(PhaseDialogTest, AddBlocksAndTheDeleteButtonsEditTheAdditionalList) {
     Phase& phase = *e.weaver.NewPhase();
-    CPhasePropertiesDlg dialog(e.weaver, phase);
+    CPhasePropertiesDlg dialog = Dialog(e.weaver, phase);
     dialog.OnAddBlocks(sub);
     EXPECT_TRUE(sub.opened.empty()) << "nothing to add to without a main block";
 

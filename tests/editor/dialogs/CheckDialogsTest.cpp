@@ -35,7 +35,7 @@ protected:
 
 TEST_F(CheckDialogsTest, SquadOkChecksInOrderThenWritesBeforeTheRangeCheck) {
     Check& check = NewCheck({"$playersquad", "$date"});
-    CheckSquadPropertiesDlg dlg(e.weaver, check);
+    CheckSquadPropertiesDlg dlg(check);
     dlg.usePlayerSquad = dlg.useServerDate = false;
     dlg.date.status = Status::Invalid;
     EXPECT_FALSE(dlg.Ok(e.prompts));
@@ -54,7 +54,7 @@ TEST_F(CheckDialogsTest, SquadOkChecksInOrderThenWritesBeforeTheRangeCheck) {
 
 TEST_F(CheckDialogsTest, LocationTypeOkChecksInOrder) {
     Check& check = NewCheck({});
-    CheckLocationTypePropertiesDlg dlg(e.weaver, check);
+    CheckLocationTypePropertiesDlg dlg(check);
     EXPECT_FALSE(dlg.Ok(e.prompts));
     dlg.typeCombo.SetCurrent(4);
     dlg.OnTypeChanged();
@@ -73,7 +73,7 @@ TEST_F(CheckDialogsTest, LocationTypeOkChecksInOrder) {
 // number last read.
 TEST_F(CheckDialogsTest, RangeWritesWhatTheValidationRefuses) {
     Check& check = NewCheck({kPrimaryLinkPhase, "at", "1000"});
-    CheckRangePropertiesDlg dlg(e.weaver, check);
+    CheckRangePropertiesDlg dlg(check);
     dlg.range.text = "far";
     EXPECT_FALSE(dlg.Ok(e.prompts));
     EXPECT_EQ(check.params[2], "1000");
@@ -87,23 +87,23 @@ TEST_F(CheckDialogsTest, RangeWritesWhatTheValidationRefuses) {
               Texts(3, "Please enter a whole number from -1 to 1000000."));
 
     Check& empty = NewCheck({});
-    CheckRangePropertiesDlg fresh(e.weaver, empty);
+    CheckRangePropertiesDlg fresh(empty);
     ASSERT_TRUE(fresh.Ok(e.prompts));
     EXPECT_EQ(empty.params, (Texts{"", "at", "0"}));
 }
 
 TEST_F(CheckDialogsTest, InRadiusAndInSectorRoundTripAndRanges) {
     Check& radiusCheck = NewCheck({kPrimaryLinkPhase, "1000"});
-    CheckInRadiusPropertiesDlg radius(e.weaver, radiusCheck);
+    CheckInRadiusPropertiesDlg radius(radiusCheck);
     EXPECT_EQ(radius.radius.text, "1000");
     radius.radius.text = "1000000";
     ASSERT_TRUE(radius.Ok(e.prompts));
     EXPECT_EQ(radiusCheck.params, (Texts{kPrimaryLinkPhase, "1000000"}));
-    EXPECT_EQ(CheckInRadiusPropertiesDlg(e.weaver, radiusCheck).radius.text, "1000000");
+    EXPECT_EQ(CheckInRadiusPropertiesDlg(radiusCheck).radius.text, "1000000");
     EXPECT_TRUE(radius.IsResultValid());
 
     Check& sectorCheck = NewCheck({kPrimaryLinkPhase, "45"});
-    CheckInSectorPropertiesDlg sector(e.weaver, sectorCheck);
+    CheckInSectorPropertiesDlg sector(sectorCheck);
     EXPECT_EQ(sector.arc.text, "45");
     sector.arc.text = "360";
     EXPECT_FALSE(sector.Ok(e.prompts));
@@ -113,7 +113,7 @@ TEST_F(CheckDialogsTest, InRadiusAndInSectorRoundTripAndRanges) {
     EXPECT_TRUE(sector.Ok(e.prompts));
 
     Check& single = NewCheck({kPrimaryLinkPhase});
-    CheckInSectorPropertiesDlg bare(e.weaver, single);
+    CheckInSectorPropertiesDlg bare(single);
     EXPECT_EQ(bare.arc.text, "0");
     EXPECT_FALSE(bare.IsResultValid());
     ASSERT_TRUE(bare.Ok(e.prompts));
