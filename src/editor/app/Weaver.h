@@ -6,6 +6,7 @@
 #include "app/RecentFiles.h"
 #include "app/Recovery.h"
 #include "canvas/CanvasView.h"
+#include "canvas/ScenePainter.h"
 #include "catalog/BlocksContainer.h"
 #include "catalog/ModelList.h"
 #include "catalog/RuleCatalogue.h"
@@ -35,6 +36,8 @@ class Weaver : public ObjectStore {
 public:
     Weaver(UserPrompts& prompts, OptionsStore& optionsStore, FileSystem& fileSystem);
     ~Weaver() override;
+    Weaver(const Weaver&) = delete;
+    Weaver& operator=(const Weaver&) = delete;
 
     // Everything the program does at start once its window exists: the data
     // folder, the configuration, the catalogues and the options, then the
@@ -236,28 +239,35 @@ public:
     std::string actionsPath = "actions.cfg";
     std::vector<std::string> blockFolders;
 
+private:
+    // Declared before the fields that name its parts, so that it is built first.
+    SceneGesture gestureView_;
+
+public:
     CanvasCursor currentCursor = CanvasCursor::Arrow;
     // World points of the press that began the gesture and of the drag's last step.
     std::int32_t anchorX = 0;
     std::int32_t anchorY = 0;
     std::int32_t dragX = 0;
     std::int32_t dragY = 0;
-    std::int32_t pointerX = 0;
-    std::int32_t pointerY = 0;
-    ScreenRect bandRect;
+    // The parts of the gesture that show on the canvas, kept in gestureView_
+    // (below) so that the painter reads them where they are.
+    std::int32_t& pointerX = gestureView_.pointerX;
+    std::int32_t& pointerY = gestureView_.pointerY;
+    ScreenRect& bandRect = gestureView_.bandRect;
     ScreenRect previousBandRect;
-    bool bandActive = false;
+    bool& bandActive = gestureView_.bandActive;
     // The object being placed; pendingPhase is also the source of a link gesture.
-    Phase* pendingPhase = nullptr;
+    Phase*& pendingPhase = gestureView_.pendingPhase;
     Case* pendingCase = nullptr;
     Switch* pendingSwitch = nullptr;
     std::string pendingImportPath;
     // The picked link, and the one under the pointer; a source id of 0 means none.
-    Link selectedLink;
-    Link hoveredLink;
+    Link& selectedLink = gestureView_.selectedLink;
+    Link& hoveredLink = gestureView_.hoveredLink;
     // The phase whose primary or secondary geometry link is picked; 0 for none.
-    std::uint32_t pickedGeometryPhase = 0;
-    bool pickedIsPrimary = true;
+    std::uint32_t& pickedGeometryPhase = gestureView_.pickedGeometryPhase;
+    bool& pickedIsPrimary = gestureView_.pickedIsPrimary;
 
 protected:
     void ForgetObject(const EditorObject* object) override;

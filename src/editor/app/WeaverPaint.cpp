@@ -4,18 +4,9 @@
 namespace lw {
 
 void Weaver::PaintScene(DrawingSurface& dc, int viewX, int viewY, float scale) const {
-    SceneGesture gesture;
-    gesture.interactionState = gesture_.State();
-    gesture.bandActive = bandActive;
-    gesture.bandRect = bandRect;
-    gesture.selectedLink = selectedLink;
-    gesture.hoveredLink = hoveredLink;
-    gesture.pickedGeometryPhase = pickedGeometryPhase;
-    gesture.pickedIsPrimary = pickedIsPrimary;
-    gesture.pendingPhase = pendingPhase;
-    gesture.pointerX = pointerX;
-    gesture.pointerY = pointerY;
-    ScenePainter(*this, options, gesture, dc, ViewTransform{viewX, viewY, scale}).PaintScene();
+    ScenePainter(*this, options, gestureView_, gesture_.State(), dc,
+                 ViewTransform{viewX, viewY, scale})
+        .PaintScene();
 }
 
 } // namespace lw

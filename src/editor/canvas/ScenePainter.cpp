@@ -87,9 +87,9 @@ std::string GeometryDetailText(const Phase& phase) {
 }
 
 ScenePainter::ScenePainter(const ObjectStore& store, const EditorOptions& options,
-                           const SceneGesture& gesture, DrawingSurface& dc,
+                           const SceneGesture& gesture, InteractionState state, DrawingSurface& dc,
                            const ViewTransform& view)
-    : store_(store), options_(options), gesture_(gesture), dc_(dc), view_(view) {}
+    : store_(store), options_(options), gesture_(gesture), state_(state), dc_(dc), view_(view) {}
 
 void ScenePainter::PaintScene() const {
     // The band is filled first, under everything, with whatever pen the
@@ -358,9 +358,8 @@ void ScenePainter::PaintUnlinkers() const {
 }
 
 void ScenePainter::PaintGestureLine() const {
-    const InteractionState state = gesture_.interactionState;
-    const bool primary = state == InteractionState::StatePrimaryLink;
-    if ((!primary && state != InteractionState::StateSecondaryLink) ||
+    const bool primary = state_ == InteractionState::StatePrimaryLink;
+    if ((!primary && state_ != InteractionState::StateSecondaryLink) ||
         gesture_.pendingPhase == nullptr)
         return;
     dc_.SelectPen(primary ? kThinBluePen : kThinRedPen);

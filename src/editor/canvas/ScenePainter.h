@@ -13,16 +13,17 @@
 namespace lw {
 
 // The part of the pointer's gesture that shows on the canvas; at rest it
-// paints nothing.
+// paints nothing. The editor keeps its gesture in one, which the painter
+// reads as it stands.
 struct SceneGesture {
-    InteractionState interactionState = InteractionState::StateIdle;
     bool bandActive = false;
     ScreenRect bandRect;
     Link selectedLink;
     Link hoveredLink;
     std::uint32_t pickedGeometryPhase = 0;
     bool pickedIsPrimary = true;
-    const Phase* pendingPhase = nullptr;
+    // The object being placed; also the source of a link gesture.
+    Phase* pendingPhase = nullptr;
     std::int32_t pointerX = 0;
     std::int32_t pointerY = 0;
 };
@@ -32,7 +33,8 @@ struct SceneGesture {
 class ScenePainter {
 public:
     ScenePainter(const ObjectStore& store, const EditorOptions& options,
-                 const SceneGesture& gesture, DrawingSurface& dc, const ViewTransform& view);
+                 const SceneGesture& gesture, InteractionState state, DrawingSurface& dc,
+                 const ViewTransform& view);
 
     // The band, the layers from phases to unlinkers, the band's edge and the
     // line of a link gesture, in this order.
@@ -74,6 +76,7 @@ private:
     const ObjectStore& store_;
     const EditorOptions& options_;
     const SceneGesture& gesture_;
+    const InteractionState state_;
     DrawingSurface& dc_;
     const ViewTransform view_;
 };
