@@ -1,12 +1,12 @@
 // Files no one should ever write, read through the real open path: each must
 // be read to its end without a crash or a hang, keep what can be kept, and
 // cost no memory beyond its own size.
-#include "support/ScratchFolder.h"
 #include "app/FileCommands.h"
 #include "document/TemplateReader.h"
 #include "platform/NativeFileSystem.h"
 #include "seams/ScriptedFileDialogs.h"
 #include "support/SampleEditor.h"
+#include "support/ScratchFolder.h"
 #include "support/TestFiles.h"
 
 #include <filesystem>

@@ -3,7 +3,6 @@
 // while it writes. Windows has none of these calls.
 #ifndef _WIN32
 
-#include "support/ScratchFolder.h"
 #include "app/FileCommands.h"
 #include "app/Weaver.h"
 #include "platform/MemoryOptionsStore.h"
@@ -11,6 +10,7 @@
 #include "platform/RecordingPrompts.h"
 #include "seams/ScriptedFileDialogs.h"
 #include "support/RecordingViewHost.h"
+#include "support/ScratchFolder.h"
 #include "support/TestFiles.h"
 
 #include <csignal>
