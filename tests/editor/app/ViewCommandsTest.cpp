@@ -50,6 +50,8 @@ TEST_F(ViewCommandsTest, FindGoesRoundTheMatchesOfNamesAndBlocksWithoutRegardToC
     commands.Run(CommandId::FindNext);
     EXPECT_EQ(finder.Status(), "1 of " + std::to_string(cases));
 
+    finder.Search("bomberRAID");
+    EXPECT_EQ(finder.MatchCount(), 1u) << "a phase's name in another case";
     finder.Search("patrol_low");
     EXPECT_EQ(finder.MatchCount(), 1u) << "a phase whose block is named so";
     finder.Search("no such name");
