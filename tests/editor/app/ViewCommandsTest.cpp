@@ -77,4 +77,6 @@ TEST(RecentFilesTest, KeepsEightMostRecentFirstEachOnce) {
     RecentFiles read;
     read.Load(store);
     EXPECT_EQ(read.Paths(), std::vector<std::string>{"scg\\only.mt"});
+    // The keys count from one: File1 is the newest.
+    EXPECT_EQ(store.GetString(RecentFiles::kSection, "File1", ""), "scg\\only.mt");
 }
