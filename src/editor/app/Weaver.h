@@ -251,7 +251,7 @@ public:
     std::int32_t dragX = 0;
     std::int32_t dragY = 0;
     // The parts of the gesture that show on the canvas, kept in gestureView_
-    // (below) so that the painter reads them where they are.
+    // (above) so that the painter reads them where they are.
     std::int32_t& pointerX = gestureView_.pointerX;
     std::int32_t& pointerY = gestureView_.pointerY;
     ScreenRect& bandRect = gestureView_.bandRect;
