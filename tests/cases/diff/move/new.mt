@@ -57,16 +57,16 @@ action; Sighting(ReconPlane,Altitude); set_altitude(Altitude,2400);if(clouds<3);
 #
 ## gui helpers
 #
-gui_helper; PatrolStart; 400; 400;""; ( ); 2;
+gui_helper; PatrolStart; 500; 400;""; ( ); 2;
 gui_helper; Contact; 1400; 350;""; ( ); 4;
 gui_helper; Sighting; 1200; 1000;
 gui_helper; ReturnHome; 2000; 700;
 gui_helper; CaseContact; 900; 850;
 gui_helper; check; 1466; 522;Contact(in_radius)
-gui_helper; Model; 466; 378;PatrolStart; (PatrolLead);
-gui_helper; Skin; 466; 345;PatrolStart; (PatrolLead);
-gui_helper; Country; 466; 312;PatrolStart; (PatrolLead);
-gui_helper; Altitude; 466; 279;PatrolStart; (PatrolLead);
+gui_helper; Model; 566; 378;PatrolStart; (PatrolLead);
+gui_helper; Skin; 566; 345;PatrolStart; (PatrolLead);
+gui_helper; Country; 566; 312;PatrolStart; (PatrolLead);
+gui_helper; Altitude; 566; 279;PatrolStart; (PatrolLead);
 gui_helper; Model; 1466; 328;Contact; (Interceptor);
 gui_helper; Skin; 1466; 295;Contact; (Interceptor);
 gui_helper; Country; 1466; 262;Contact; (Interceptor);
