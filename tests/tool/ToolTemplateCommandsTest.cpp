@@ -138,6 +138,14 @@ TEST_F(ToolTemplateCommandsTest, CheckCasesReportEachProblemWithItsLine) {
                                            result["messages"].toArray().size()),
                   static_cast<std::size_t>(std::count(output.begin(), output.end(), '\n')))
             << caseFolder;
+        // Qt reads a bad escape leniently, so the texts must come back whole
+        // (those of plain ASCII: other bytes are written as their code points).
+        for (const QJsonValue& problem : result["diagnostics"].toArray()) {
+            const QString message = problem.toObject()["message"].toString();
+            if (message.toLatin1() == message.toUtf8()) {
+                EXPECT_NE(output.find(message.toStdString()), std::string::npos) << caseFolder;
+            }
+        }
     }
 }
 
