@@ -25,7 +25,7 @@ TEST(ModelList, ReadsTypesAndTheirModelsInFileOrder) {
                                 "Type\r\n{\r\n  Name = Fighter;\r\n"
                                 "  Model\r\n  {\r\n    Name = \"Hawk Mk 2\";\r\n"
                                 "    Coalition = North;\r\n  }\r\n"
-                                "  Model\r\n  {\r\n    Name = Kestrel;\r\n  }\r\n}\r\n"
+                                "  Model\r\n  {\r\n    Name = Kestrel;\r\n    Coalition =;\r\n  }\r\n}\r\n"
                                 "Coalition = Stray;\r\n");
     ASSERT_EQ(list.types.size(), 1u);
     const ModelType& fighter = list.types.at("Fighter");

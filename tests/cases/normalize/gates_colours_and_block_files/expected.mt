@@ -40,4 +40,4 @@ tlink; Start(spotted); Land(done);
 #
 gui_helper; Start; -100; -50;""; ( ); 6;
 gui_helper; Land; 0; 0;""; ( ); 6;
-gui_helper; Third; 0; 0;""; ( ); 6;
+gui_helper; Third; 10; 20;
