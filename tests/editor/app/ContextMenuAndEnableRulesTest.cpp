@@ -103,10 +103,11 @@ TEST_F(ContextMenuTest, TwoPhasesGetFourLinkEntriesThatEachDoWhatTheyName) {
     }
 }
 
-TEST_F(EnableRulesTest, SaveNeedsAChangeAndCutAndCopyNeedASelection) {
+TEST_F(EnableRulesTest, SaveNeedsAChangeAndCutCopyAndFitSelectionNeedASelection) {
     weaver.fileName = "scg\\mine.mt";
     Phase* phase = PhaseAt(weaver, "A", 0, 0);
     EXPECT_FALSE(commands.IsEnabled(CommandId::FileSave));
+    EXPECT_FALSE(commands.IsEnabled(CommandId::ViewZoomSelection));
     EXPECT_FALSE(commands.Run(CommandId::EditCut));
     EXPECT_FALSE(commands.Run(CommandId::EditCopy));
     EXPECT_EQ(e.DataFileText(Weaver::kClipboardPath), "<missing>");
@@ -114,6 +115,7 @@ TEST_F(EnableRulesTest, SaveNeedsAChangeAndCutAndCopyNeedASelection) {
 
     Select(phase);
     EXPECT_TRUE(commands.IsEnabled(CommandId::EditCut));
+    EXPECT_TRUE(commands.IsEnabled(CommandId::ViewZoomSelection));
     commands.Run(CommandId::AddFreeCheck);
     EXPECT_TRUE(commands.IsEnabled(CommandId::FileSave));
     EXPECT_TRUE(commands.Run(CommandId::FileSave));

@@ -20,17 +20,6 @@ protected:
         e.Open("scg\\sample_rich.mt");
     }
 
-    // Whether every phase lies whole inside the canvas.
-    bool AllPhasesShown() const {
-        bool inside = true;
-        e.weaver.ForEach<Phase>([&](const Phase& phase) {
-            const ScreenRect r = phase.GetScreenRect(e.view.viewX, e.view.viewY, e.view.scale);
-            inside = inside && r.left >= 0 && r.top >= 0 && r.right <= e.view.pixelWidth &&
-                     r.bottom <= e.view.pixelHeight;
-        });
-        return inside;
-    }
-
     SampleEditor e;
     ScriptedFileDialogs files;
     EditorCommands commands{e.weaver, files};
