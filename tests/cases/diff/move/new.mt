@@ -59,7 +59,7 @@ action; Sighting(ReconPlane,Altitude); set_altitude(Altitude,2400);if(clouds<3);
 #
 gui_helper; PatrolStart; 500; 400;""; ( ); 2;
 gui_helper; Contact; 1400; 350;""; ( ); 4;
-gui_helper; Sighting; 1200; 1000;
+gui_helper; Sighting; 1200; 1100;
 gui_helper; ReturnHome; 2000; 700;
 gui_helper; CaseContact; 900; 850;
 gui_helper; check; 1466; 522;Contact(in_radius)
@@ -71,7 +71,7 @@ gui_helper; Model; 1466; 328;Contact; (Interceptor);
 gui_helper; Skin; 1466; 295;Contact; (Interceptor);
 gui_helper; Country; 1466; 262;Contact; (Interceptor);
 gui_helper; Speed; 1466; 229;Contact; (Interceptor);
-gui_helper; Model; 1266; 978;Sighting; (ReconPlane);
-gui_helper; Skin; 1266; 945;Sighting; (ReconPlane);
-gui_helper; Country; 1266; 912;Sighting; (ReconPlane);
-gui_helper; Altitude; 1266; 879;Sighting; (ReconPlane);
+gui_helper; Model; 1266; 1078;Sighting; (ReconPlane);
+gui_helper; Skin; 1266; 1045;Sighting; (ReconPlane);
+gui_helper; Country; 1266; 1012;Sighting; (ReconPlane);
+gui_helper; Altitude; 1266; 979;Sighting; (ReconPlane);
