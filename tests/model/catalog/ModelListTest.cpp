@@ -21,12 +21,13 @@ std::string Describe(const ModelRecord& model) {
 } // namespace
 
 TEST(ModelList, ReadsTypesAndTheirModelsInFileOrder) {
-    const ModelList list = Read("# models\r\n"
-                                "Type\r\n{\r\n  Name = Fighter;\r\n"
-                                "  Model\r\n  {\r\n    Name = \"Hawk Mk 2\";\r\n"
-                                "    Coalition = North;\r\n  }\r\n"
-                                "  Model\r\n  {\r\n    Name = Kestrel;\r\n    Coalition =;\r\n  }\r\n}\r\n"
-                                "Coalition = Stray;\r\n");
+    const ModelList list =
+        Read("# models\r\n"
+             "Type\r\n{\r\n  Name = Fighter;\r\n"
+             "  Model\r\n  {\r\n    Name = \"Hawk Mk 2\";\r\n"
+             "    Coalition = North;\r\n  }\r\n"
+             "  Model\r\n  {\r\n    Name = Kestrel;\r\n    Coalition =;\r\n  }\r\n}\r\n"
+             "Coalition = Stray;\r\n");
     ASSERT_EQ(list.types.size(), 1u);
     const ModelType& fighter = list.types.at("Fighter");
     EXPECT_EQ(fighter.name, "Fighter");
