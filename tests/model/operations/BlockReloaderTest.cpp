@@ -2,6 +2,7 @@
 
 #include "platform/MemoryFileSystem.h"
 #include "platform/RecordingPrompts.h"
+#include "support/HandBuilt.h"
 
 #include <gtest/gtest.h>
 
@@ -29,15 +30,6 @@ protected:
         phase->blocks["main"] = block;
         return phase;
     }
-    Action* AddAction(Phase& phase, const std::string& objectName, const std::string& name) {
-        Action* action = store.NewAction();
-        action->phaseId = phase.id;
-        action->objectName = objectName;
-        action->name = name;
-        phase.AddActionId(action->id);
-        return action;
-    }
-
     // Runs a reload and answers the lines that tell of a change.
     Lines Reload() {
         Lines log;
@@ -62,10 +54,10 @@ protected:
 
 TEST_F(BlockReloaderTest, AnActionMovedIntoAFreedPlaceWaitsForTheNextReload) {
     Phase* phase = AddPhase("P", "blocks\\lead.group");
-    AddAction(*phase, "Lead", "Model");
-    AddAction(*phase, "Lead", "Gone1");
-    AddAction(*phase, "Lead", "Gone2");
-    Action* byHand = AddAction(*phase, "", "Briefing");
+    test::ActionOf(store, *phase, "Lead", "Model");
+    test::ActionOf(store, *phase, "Lead", "Gone1");
+    test::ActionOf(store, *phase, "Lead", "Gone2");
+    Action* byHand = test::ActionOf(store, *phase, "", "Briefing");
     Action* orphan = store.NewAction();
     orphan->objectName = "Lead";
     orphan->name = "Gone3";
