@@ -16,8 +16,15 @@ endfunction()
 # Every folder of the editor (app, undo, seams, ...) is a prefix that no
 # model source may include.
 function(assert_model_sources_include_no_editor model_dir editor_dir)
-    file(GLOB editor_folders RELATIVE "${editor_dir}" "${editor_dir}/*")
     file(GLOB_RECURSE sources "${model_dir}/*.h" "${model_dir}/*.cpp")
+    assert_files_include_no_editor("${editor_dir}" ${sources})
+endfunction()
+
+# The same for single files outside the model that need only the model, as
+# the tool's commands that check, compare and rewrite templates.
+function(assert_files_include_no_editor editor_dir)
+    set(sources ${ARGN})
+    file(GLOB editor_folders RELATIVE "${editor_dir}" "${editor_dir}/*")
     foreach(folder IN LISTS editor_folders)
         if(NOT IS_DIRECTORY "${editor_dir}/${folder}")
             continue()

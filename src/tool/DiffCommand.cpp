@@ -1,14 +1,14 @@
 #include "DiffCommand.h"
 
+#include "ModelSession.h"
 #include "TemplateCommands.h"
-#include "ToolSession.h"
 #include "diff/DiffListing.h"
 #include "diff/DocumentDiff.h"
 
 #include <iostream>
 
-bool LoadForComparison(ToolSession& session, const std::string& path) {
-    const bool loaded = session.weaver.LoadTemplateFile(CommandLinePath(path));
+bool LoadForComparison(ModelSession& session, const std::string& path) {
+    const bool loaded = session.Load(path);
     PrintLines(std::cerr, session.TakeMessages(), path + ": ");
     return loaded;
 }
@@ -20,12 +20,12 @@ int RunDiffCommand(const ToolArguments& arguments, std::ostream& out) {
         std::cerr << "loomwright-tool: --format takes text or json\n";
         return kFailure;
     }
-    ToolSession older(arguments.dataFolder);
-    ToolSession newer(arguments.dataFolder);
+    ModelSession older(arguments.dataFolder);
+    ModelSession newer(arguments.dataFolder);
     if (!LoadForComparison(older, arguments.positional[0]) ||
         !LoadForComparison(newer, arguments.positional[1]))
         return kFailure;
-    const lw::DocumentDiff diff = lw::CompareDocuments(older.weaver, newer.weaver);
+    const lw::DocumentDiff diff = lw::CompareDocuments(older.workspace, newer.workspace);
     out << (json ? lw::DiffJson(diff) : lw::DiffText(diff));
     return diff.Same() ? 0 : 1;
 }

@@ -12,8 +12,8 @@
 // the listing stays whole.
 int RunDiffCommand(const ToolArguments& arguments, std::ostream& out);
 
-class ToolSession;
+class ModelSession;
 
-// Loads a template for a comparison into a session's editor; false, with
+// Loads a template for a comparison into a session; false, with
 // the messages printed to the error stream, when it cannot be read.
-bool LoadForComparison(ToolSession& session, const std::string& path);
+bool LoadForComparison(ModelSession& session, const std::string& path);

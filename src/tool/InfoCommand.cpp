@@ -1,6 +1,6 @@
 #include "InfoCommand.h"
 
-#include "ToolSession.h"
+#include "ModelSession.h"
 
 #include <map>
 
@@ -16,23 +16,23 @@ std::size_t CountModels(const lw::ModelList& list) {
 } // namespace
 
 int RunInfoCommand(const ToolArguments& arguments, std::ostream& out) {
-    ToolSession session(arguments.dataFolder);
-    const lw::Weaver& weaver = session.weaver;
+    ModelSession session(arguments.dataFolder);
+    const lw::TemplateWorkspace& workspace = session.workspace;
     const std::vector<std::string> messages = session.TakeMessages();
     for (const std::string& message : messages)
         out << message << "\n";
 
     std::map<std::string, std::size_t> blocksPerFolder;
-    for (const auto& block : weaver.blockPool.blocks)
+    for (const auto& block : workspace.blockPool.blocks)
         ++blocksPerFolder[block.second.folder];
 
-    out << "data folder: " << weaver.files.BaseFolder() << "\n";
-    out << "tvd: " << weaver.tvdFolder << "\n";
-    out << "models: " << weaver.modelsPath << " (" << weaver.modelList.types.size() << " types, "
-        << CountModels(weaver.modelList) << " models)\n";
-    out << "actions: " << weaver.actionsPath << " (" << weaver.ruleCatalogue.rules.size()
+    out << "data folder: " << workspace.files.BaseFolder() << "\n";
+    out << "tvd: " << workspace.tvdFolder << "\n";
+    out << "models: " << workspace.modelsPath << " (" << workspace.modelList.types.size()
+        << " types, " << CountModels(workspace.modelList) << " models)\n";
+    out << "actions: " << workspace.actionsPath << " (" << workspace.ruleCatalogue.rules.size()
         << " rules)\n";
-    for (const std::string& folder : weaver.blockFolders)
+    for (const std::string& folder : workspace.blockFolders)
         out << "blocks: " << folder << " (" << blocksPerFolder[folder] << " blocks)\n";
     return messages.empty() ? 0 : 1;
 }

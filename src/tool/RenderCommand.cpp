@@ -145,15 +145,15 @@ int RunRenderCommand(const ToolArguments& arguments, const char* usage) {
     // ones that choose the layers.
     weaver.options = layers;
     lw::SceneOverlay overlay;
-    std::unique_ptr<ToolSession> older;
+    std::unique_ptr<ModelSession> older;
     const auto oldTemplate = arguments.values.find(kDiffOption);
     if (oldTemplate != arguments.values.end()) {
-        older = std::make_unique<ToolSession>(arguments.dataFolder);
+        older = std::make_unique<ModelSession>(arguments.dataFolder);
         if (!LoadForComparison(*older, oldTemplate->second))
             return kFailure;
-        overlay = [diff = lw::CompareDocuments(older->weaver, weaver), &older,
+        overlay = [diff = lw::CompareDocuments(older->workspace, weaver), &older,
                    &weaver](lw::DrawingSurface& surface, const lw::ViewTransform& view) {
-            lw::PaintDiffOverlay(surface, diff, older->weaver, weaver, view);
+            lw::PaintDiffOverlay(surface, diff, older->workspace, weaver, view);
         };
     }
     if (!WritePicture(weaver, scale, arguments.positional[1], overlay))

@@ -1,6 +1,6 @@
 #include "TemplateCommands.h"
 
-#include "ToolSession.h"
+#include "ModelSession.h"
 #include "diagnostics/DiagnosticsJson.h"
 #include "operations/BlockReloader.h"
 #include "platform/NativeFileSystem.h"
@@ -52,19 +52,19 @@ std::vector<std::string> TemplatesNamedBy(const std::vector<std::string>& argume
 template <typename Prepare, typename Change>
 int RewriteTemplate(const ToolArguments& arguments, std::ostream& out, Prepare prepare,
                     Change change) {
-    ToolSession session(arguments.dataFolder);
-    lw::Weaver& weaver = session.weaver;
-    prepare(weaver);
-    bool failed = !weaver.LoadTemplateFile(CommandLinePath(arguments.positional[0]));
+    ModelSession session(arguments.dataFolder);
+    lw::TemplateWorkspace& workspace = session.workspace;
+    prepare(workspace);
+    bool failed = !session.Load(arguments.positional[0]);
     std::vector<std::string> report;
     if (!failed)
-        report = change(weaver);
+        report = change(workspace);
     std::vector<std::string> messages = session.TakeMessages();
     PrintLines(out, messages);
     PrintLines(out, report);
     if (!failed) {
-        weaver.fileName = CommandLinePath(arguments.positional[1]);
-        failed = !weaver.SaveTemplateFile();
+        workspace.fileName = CommandLinePath(arguments.positional[1]);
+        failed = !workspace.WriteTemplateFile();
     }
     const std::vector<std::string> saveMessages = session.TakeMessages();
     PrintLines(out, saveMessages);
@@ -123,10 +123,10 @@ private:
 };
 
 // The problems of the open template, named by the path as it was typed.
-lw::Diagnostics ProblemsOf(lw::Weaver& weaver, const std::string& typed) {
-    lw::Diagnostics problems = weaver.problems.All(weaver, weaver.fileName);
+lw::Diagnostics ProblemsOf(lw::TemplateWorkspace& workspace, const std::string& typed) {
+    lw::Diagnostics problems = workspace.problems.All(workspace, workspace.fileName);
     for (lw::Diagnostic& problem : problems) {
-        if (problem.file == weaver.fileName)
+        if (problem.file == workspace.fileName)
             problem.file = typed;
     }
     return problems;
@@ -146,8 +146,8 @@ int RunCheckCommand(const ToolArguments& arguments, std::ostream& out) {
                                : formatName == "json" ? CheckFormat::Json
                                                       : CheckFormat::Text;
     CheckPrinter printer(format, arguments.flags.count(kWerrorFlag) != 0, out);
-    ToolSession session(arguments.dataFolder);
-    session.weaver.reportProblems = format != CheckFormat::Text;
+    ModelSession session(arguments.dataFolder);
+    session.workspace.reportProblems = format != CheckFormat::Text;
     // What the data folder itself showed at start belongs to no template.
     const std::vector<std::string> atStart = session.TakeMessages();
     if (!atStart.empty())
@@ -155,11 +155,11 @@ int RunCheckCommand(const ToolArguments& arguments, std::ostream& out) {
                       {});
     bool anyUnreadable = false;
     for (const std::string& path : TemplatesNamedBy(arguments.positional)) {
-        const bool loaded = session.weaver.LoadTemplateFile(CommandLinePath(path));
+        const bool loaded = session.Load(path);
         anyUnreadable = anyUnreadable || !loaded;
         const std::vector<std::string> messages = session.TakeMessages();
         printer.Print(path, messages,
-                      loaded && format != CheckFormat::Text ? ProblemsOf(session.weaver, path)
+                      loaded && format != CheckFormat::Text ? ProblemsOf(session.workspace, path)
                                                             : lw::Diagnostics());
     }
     printer.Finish();
@@ -170,7 +170,8 @@ int RunCheckCommand(const ToolArguments& arguments, std::ostream& out) {
 
 int RunNormalizeCommand(const ToolArguments& arguments, std::ostream& out) {
     return RewriteTemplate(
-        arguments, out, [](lw::Weaver&) {}, [](lw::Weaver&) { return std::vector<std::string>(); });
+        arguments, out, [](lw::TemplateWorkspace&) {},
+        [](lw::TemplateWorkspace&) { return std::vector<std::string>(); });
 }
 
 int RunReloadCommand(const ToolArguments& arguments, std::ostream& out) {
@@ -183,19 +184,19 @@ int RunReloadCommand(const ToolArguments& arguments, std::ostream& out) {
         std::cerr << "loomwright-tool: there is no folder " << before->second << "\n";
         return kFailure;
     }
-    const auto useBlocksBefore = [&](lw::Weaver& weaver) {
+    const auto useBlocksBefore = [&](lw::TemplateWorkspace& workspace) {
         if (!hasBefore)
             return;
-        weaver.files.SetBaseFolder(before->second);
-        weaver.blockPool.Load(weaver.blockFolders);
+        workspace.files.SetBaseFolder(before->second);
+        workspace.blockPool.Load(workspace.blockFolders);
     };
     // The same reload as the editor's, with the log printed instead of
     // written into the data folder and opened.
-    return RewriteTemplate(arguments, out, useBlocksBefore, [&](lw::Weaver& weaver) {
+    return RewriteTemplate(arguments, out, useBlocksBefore, [&](lw::TemplateWorkspace& workspace) {
         if (hasBefore)
-            weaver.files.SetBaseFolder(arguments.dataFolder);
+            workspace.files.SetBaseFolder(arguments.dataFolder);
         std::vector<std::string> log;
-        lw::BlockReloader(weaver, weaver.blockPool, log).Run(weaver.blockFolders);
+        lw::BlockReloader(workspace, workspace.blockPool, log).Run(workspace.blockFolders);
         return log;
     });
 }

@@ -23,8 +23,7 @@ public:
 } // namespace
 
 Weaver::Weaver(UserPrompts& prompts, OptionsStore& optionsStore, FileSystem& fileSystem)
-    : prompts(prompts), optionsStore(optionsStore), files(fileSystem), blockPool(files, prompts),
-      undoManager(this) {
+    : TemplateWorkspace(prompts, fileSystem), optionsStore(optionsStore), undoManager(this) {
     selection.view = canvasView_;
 }
 
@@ -39,7 +38,7 @@ std::string Weaver::Title() const {
 }
 
 void Weaver::ForgetObject(const EditorObject* object) {
-    ObjectStore::ForgetObject(object);
+    TemplateWorkspace::ForgetObject(object);
     // An undo may take away the object a gesture is placing or linking from.
     if (object == pendingPhase)
         pendingPhase = nullptr;

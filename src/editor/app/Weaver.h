@@ -7,19 +7,12 @@
 #include "app/Recovery.h"
 #include "canvas/CanvasView.h"
 #include "canvas/ScenePainter.h"
-#include "catalog/BlocksContainer.h"
-#include "catalog/ModelList.h"
-#include "catalog/RuleCatalogue.h"
-#include "diagnostics/Problems.h"
 #include "document/TemplateDesc.h"
-#include "document/TemplateReadReport.h"
-#include "operations/ObjectStore.h"
-#include "platform/FileAccess.h"
 #include "platform/OptionsStore.h"
-#include "platform/UserPrompts.h"
 #include "seams/PropertyDialogs.h"
 #include "seams/ViewHost.h"
 #include "undo/UndoManager.h"
+#include "workspace/TemplateWorkspace.h"
 
 #include <string>
 #include <vector>
@@ -28,11 +21,11 @@ namespace lw {
 
 class DrawingSurface;
 
-// The central object: it owns the catalogues, the command history, the
-// options and the document (the store it derives from), and every operation
-// on them goes through it. The platform reaches it only through the seams it
-// is given.
-class Weaver : public ObjectStore {
+// The central object: the workspace it derives from (the data folder, the
+// catalogues and the document), with the command history, the options and
+// the gesture; every operation of the editor goes through it. The platform
+// reaches it only through the seams it is given.
+class Weaver : public TemplateWorkspace {
 public:
     Weaver(UserPrompts& prompts, OptionsStore& optionsStore, FileSystem& fileSystem);
     ~Weaver() override;
@@ -48,15 +41,10 @@ public:
     static constexpr const char* kFirstStartTemplate = "scg\\sample_rich.mt";
     void OpenFirstStartTemplate();
 
-    // Reads "scg\Loomwright.ini" from the data folder.
-    void ReadConfiguration();
-
     // Empties the document and its history; the caller repaints.
-    void ClearDocument();
-    // Replaces the document by the file's content; a file that does not open
-    // leaves an empty document. A file that holds lines but no template
-    // record leaves the document as it was. False in both cases.
-    static constexpr const char* kNoTemplateMessage = "This file holds no template.";
+    void ClearDocument() override;
+    // Replaces the document by the file's content, as ReadTemplateFile does,
+    // and names the document by the file.
     bool LoadTemplateFile(const std::string& path);
     // Writes the document to `fileName`, whole or not at all. False, with the
     // document still changed, when it could not be written.
@@ -211,33 +199,11 @@ public:
     CanvasView& View() { return *canvasView_; }
     ViewTransform CurrentView() const { return *canvasView_; }
 
-    // The seams, in the order they must be built.
-    UserPrompts& prompts;
     OptionsStore& optionsStore;
-    FileAccess files;
-
-    BlocksContainer blockPool;
-    ModelList modelList;
-    RuleCatalogue ruleCatalogue;
     UndoManager undoManager;
     EditorOptions options;
     RecentFiles recentFiles;
-    // Whether reading a template reports the lines it drops and the records
-    // it cannot use, beside the message boxes. The editor and `check` ask
-    // for it; it makes opening a large template about two thirds slower.
-    bool reportProblems = false;
-    Problems problems;
-    // Path of the open template relative to the data folder; empty for a new one.
-    std::string fileName;
     ViewHost* viewHost = nullptr;
-
-    // The data folder in lower case, as paths in the program are compared;
-    // files.BaseFolder() holds it as the file system spells it.
-    std::string dataFolder;
-    std::string tvdFolder = "scg\\0\\";
-    std::string modelsPath = "models.cfg";
-    std::string actionsPath = "actions.cfg";
-    std::vector<std::string> blockFolders;
 
 private:
     // Declared before the fields that name its parts, so that it is built first.
@@ -299,13 +265,12 @@ private:
     template <typename T, typename Command, typename OpenDialog>
     void EditWithDialog(T& object, OpenDialog openDialog);
 
-    template <typename Catalogue> void ReadCatalogue(const std::string& path, Catalogue& catalogue);
-    // Replaces the document by the file's content, as LoadTemplateFile does,
-    // but gives the document no name.
-    bool ReadTemplateFile(const std::string& path);
+    // Reads the file into the editor as ReadTemplateFile does, with a fresh
+    // history and the view no longer fitted; the title and canvas follow a
+    // file that did not open.
+    bool ReadDocument(const std::string& path);
     // The template was opened or saved: it is the last used and the most recent.
     void NoteTemplateFile(const std::string& path);
-    void NoteFileProblems(const TemplateDesc& desc, TemplateReadReport& report, Diagnostics built);
 
     // What the drag under way moves, with where each object stood before it.
     struct DraggedObject {

@@ -60,7 +60,7 @@ bool Weaver::OfferRecoveredDocument() {
         prompts.Ask("Loomwright was not closed properly. Restore the unsaved changes to " + name +
                         "?\n\nThe changes were kept on " + kept->time + ".",
                     MessageIcon::Question, QuestionButtons::YesNo);
-    if (answer != Answer::Yes || !ReadTemplateFile(kept->copyPath)) {
+    if (answer != Answer::Yes || !ReadDocument(kept->copyPath)) {
         recovery_->Remove();
         return false;
     }
