@@ -9,7 +9,9 @@
 #   scripts/run-mutants.sh [list] [ctest-regex]
 #
 # list defaults to tests/mutants.txt; ctest-regex limits the tests run for
-# every mutant (by default all but the format check). MUTANTS_SOURCE names
+# every mutant (by default all but the format check). MUTANTS_KILLERS=1 runs
+# the whole suite on every mutant and lists under it each test that failed,
+# so that a test that alone kills a mutant shows as such. MUTANTS_SOURCE names
 # another checkout to copy, such as a worktree of an older suite. The scratch
 # copy is build-mutants/src, kept between runs so that its build
 # (build-mutants/src/build) stays incremental.
@@ -70,6 +72,8 @@ restore() {
 }
 trap 'restore; exit 130' INT TERM
 
+stop_on_failure=--stop-on-failure
+[ "${MUTANTS_KILLERS:-0}" = 1 ] && stop_on_failure=""
 killed=0 survived=0 errors=0
 report="$SCRATCH/report.txt"
 : >"$report"
@@ -93,12 +97,15 @@ open(path, "wb").write("\n".join(lines).encode("latin-1"))' "$target"
         echo "ERROR   $label (does not compile)" | tee -a "$report"
         errors=$((errors + 1))
     elif ctest --test-dir "$BUILD" -R "$TESTS" -E 'Format\.' --parallel "$(nproc)" \
-        --timeout 300 --stop-on-failure >/dev/null 2>&1; then
+        --timeout 300 ${stop_on_failure} >/dev/null 2>&1; then
         echo "SURVIVED $label" | tee -a "$report"
         survived=$((survived + 1))
     else
         echo "killed  $label" | tee -a "$report"
         killed=$((killed + 1))
+        if [ -z "$stop_on_failure" ]; then
+            sed 's/^[0-9]*:/        by /' "$BUILD/Testing/Temporary/LastTestsFailed.log" | tee -a "$report"
+        fi
     fi
     mv "$target.orig" "$target"
     touch "$target"
