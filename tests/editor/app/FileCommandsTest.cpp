@@ -48,23 +48,6 @@ protected:
 
 } // namespace
 
-TEST_F(FileCommandsTest, AFailedSaveKeepsTheOldFileAndTheChanges) {
-    StartUp();
-    LoadChanged();
-    const std::string path = kData + "/scg/sample_small.mt";
-    disk.MakeReadOnly(path);
-    EXPECT_FALSE(weaver.SaveTemplateFile());
-    disk.Remove(path);
-    disk.AddFile(path, "old");
-    disk.FailNextReplace();
-    EXPECT_FALSE(weaver.SaveTemplateFile());
-    EXPECT_EQ(prompts.MessageTexts(),
-              (std::vector<std::string>{"Can't save template file!", "Can't save template file!"}));
-    EXPECT_EQ(Bytes(path), "old");
-    EXPECT_TRUE(weaver.undoManager.changed);
-    EXPECT_EQ(host.title, "Loomwright - scg\\sample_small.mt*");
-}
-
 TEST_F(FileCommandsTest, SaveOfANewDocumentOffersDefaultInTheDataFolder) {
     StartUp();
     EXPECT_FALSE(weaver.LoadTemplateFile("scg\\gone.mt"));

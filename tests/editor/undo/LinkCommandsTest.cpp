@@ -22,27 +22,6 @@ protected:
 
 } // namespace
 
-TEST_F(LinkCommandsTest, UndoingAnAddedLinkErasesTheFirstEqualOneOnly) {
-    weaver.links = {link, link};
-    weaver.RefreshGateMarks();
-    UR_AddNewLinkCmd command(&weaver, link);
-    command.Undo();
-    EXPECT_EQ(weaver.links.size(), 1u);
-    EXPECT_FALSE(toInputOpen);
-    command.Undo();
-    EXPECT_TRUE(weaver.links.empty());
-    EXPECT_TRUE(toInputOpen);
-
-    // With no such link left the marks are not refreshed either.
-    toInputOpen = false;
-    command.Undo();
-    EXPECT_FALSE(toInputOpen);
-    toInputOpen = true;
-    command.Redo();
-    EXPECT_EQ(weaver.links, std::vector<Link>{link});
-    EXPECT_FALSE(toInputOpen);
-}
-
 TEST_F(LinkCommandsTest, DeletedLinksComeBackAtTheEndInTheirOrder) {
     const Link back = LinkBetween(*to, *from);
     Link other = link;

@@ -36,33 +36,6 @@ TEST(ParserUtilsWords, QuotedTextIsOneWord) {
     EXPECT_EQ(pos, 5u);
 }
 
-TEST(ParserUtilsEmbraced, ReadsUpToClosingAndTakesRestWhenUnterminated) {
-    std::size_t pos = 5;
-    EXPECT_EQ(ParserUtils::getNextEmbracedWord("Name [a b] x", pos, ']'), "a b");
-    EXPECT_EQ(pos, 10u);
-    pos = 0;
-    EXPECT_EQ(ParserUtils::getNextEmbracedWord("\"abc", pos, '"'), "abc");
-    EXPECT_EQ(pos, 4u);
-}
-
-TEST(ParserUtilsBrackets, SearchesForwardAndMovesBehindClosingBracket) {
-    const std::string line = "gui_helper; n; 1; 2;P1; (OBJ); rest";
-    std::size_t pos = 20;
-    std::vector<std::string> params;
-    ParserUtils::getParamsInBrackets(params, line, pos);
-    EXPECT_EQ(params, Strings{"OBJ"});
-    EXPECT_EQ(line.substr(pos), "; rest");
-}
-
 TEST(ParserUtilsBrackets, NestedBracketsStayInOneEntry) {
     EXPECT_EQ(Params("x(f(a,b),c)"), (Strings{"f(a,b)", "c"}));
-}
-
-TEST(ParserUtilsBrackets, MissingBracketsGiveNothingAndEndThePosition) {
-    std::vector<std::string> params;
-    std::size_t pos = 0;
-    ParserUtils::getParamsInBrackets(params, "no brackets", pos);
-    EXPECT_TRUE(params.empty());
-    EXPECT_EQ(pos, 11u);
-    EXPECT_EQ(Params("(a,b"), (Strings{"a", "b"}));
 }

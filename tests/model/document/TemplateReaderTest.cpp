@@ -21,16 +21,6 @@ TemplateDesc Read(const std::string& text, TemplateDesc desc = {}) {
 
 } // namespace
 
-TEST(TemplateReader, AppendsToWhatTheDescHoldsInFileOrder) {
-    TemplateDesc before;
-    before.cases.push_back(CaseDesc{"old", {}});
-    const TemplateDesc desc = Read("case; b();\r\nswitch; 1; 0; 0; s();\r\ncase; a();\r\n", before);
-    ASSERT_EQ(desc.cases.size(), 3u);
-    EXPECT_EQ(desc.cases[0].name, "old");
-    EXPECT_EQ(desc.cases[1].name, "b");
-    EXPECT_EQ(desc.cases[2].name, "a");
-}
-
 // The writer drops a colour behind an owner or in a check's helper; the reader
 // still takes it.
 TEST(TemplateReader, GuiHelperColourIsReadWhateverStandsBeforeIt) {

@@ -17,30 +17,6 @@ Ids IdsInOrder(const ObjectStore& store) {
 
 } // namespace
 
-TEST(ObjectStoreTest, IdsGrowAndAreNeverReused) {
-    ObjectStore store;
-    Phase* phase = store.NewPhase();
-    EXPECT_EQ(phase->id, 1);
-    EXPECT_EQ(phase->name, "phase_1");
-    EXPECT_EQ(store.NewCase()->name, "case_2");
-    EXPECT_EQ(store.NewSwitch()->name, "switch_3");
-    store.RemoveObject(store.FindObject(2));
-    store.RemoveObject(store.FindObject(3));
-    store.RemoveObject(nullptr);
-    EXPECT_EQ(store.NewCheck()->id, 4);
-    EXPECT_EQ(store.NewAction()->id, 5);
-    EXPECT_EQ(store.NewUnlinker()->id, 6);
-    EXPECT_EQ(IdsInOrder(store), (Ids{1, 4, 5, 6}));
-    EXPECT_EQ(store.objectIndex.size(), 4u);
-    EXPECT_EQ(store.FindObject(0), nullptr);
-    EXPECT_EQ(store.FindObject(2), nullptr);
-
-    store.ClearObjects();
-    EXPECT_TRUE(store.objects.empty());
-    EXPECT_TRUE(store.objectIndex.empty());
-    EXPECT_EQ(store.NewPhase()->id, 1);
-}
-
 TEST(ObjectStoreTest, LookupsFindTheFirstInListOrderAlsoAfterARestore) {
     ObjectStore store;
     Phase* first = store.NewPhase();
