@@ -114,22 +114,6 @@ private slots:
         frame.reset();
     }
 
-    void clicksCtrlClicksAndTheBandSelect() {
-        lw::Weaver& weaver = frame->weaver();
-        Click(view, At("PlayerStart"));
-        QCOMPARE(Selected(), QStringList{"PlayerStart"});
-        Click(view, At("WaypointNorth"), Qt::ControlModifier);
-        QCOMPARE(Selected(), (QStringList{"PlayerStart", "WaypointNorth"}));
-        Click(view, At("PlayerStart"), Qt::ControlModifier);
-        QCOMPARE(Selected(), QStringList{"WaypointNorth"});
-
-        // A band from empty canvas around the two phases of the first column.
-        Drag(view, Screen(150, 150), Screen(700, 1150));
-        QCOMPARE(Selected(), (QStringList{"PlayerStart", "EscortLeg"}));
-        QVERIFY(weaver.undoManager.undoStack.empty());
-        QCOMPARE(weaver.Gesture().Number(), int(lw::InteractionState::StateIdle));
-    }
-
     void aDragIsOneCommandUndoneAndRedoneByMenuAndKeys() {
         lw::Phase* start = frame->weaver().FindPhaseByName("PlayerStart");
         Drag(view, At("PlayerStart"), At("PlayerStart") + QPoint(50, 25));
@@ -313,18 +297,6 @@ private slots:
         QVERIFY(again.OnCreate(dataCopy.path().toStdString()));
         QCOMPARE(again.geometry(), left);
         QSettings(lw::kOrganizationName, lw::kApplicationName).remove("Window");
-    }
-
-    // The hint of the chosen entry does not stay beside its dialog.
-    void theStatusBarClearsWhenACommandStarts() {
-        frame->actions().Action(CommandId::EditUndo)->showStatusText(frame.get());
-        QString shownWithTheDialog = "not run";
-        OnNext<QDialog>([&](QDialog& about) {
-            shownWithTheDialog = frame->statusBar()->currentMessage();
-            about.accept();
-        });
-        frame->RunCommand(CommandId::AppAbout);
-        QCOMPARE(shownWithTheDialog, QString());
     }
 
     // The rich sample opens showing all of its phases, not one of them.

@@ -58,18 +58,6 @@ TEST_F(ToolDiffTest, JsonListsTheSameDifferences) {
     EXPECT_TRUE(root["links"].toObject()["added"].toArray().isEmpty());
 }
 
-TEST_F(ToolDiffTest, ATemplateThatCannotBeReadExitsWithTwo) {
-    const ToolRun run =
-        RunTool("diff " + kDataOption + Quoted(kSmall) + " " + Quoted(Path("none.mt")));
-    EXPECT_EQ(run.status, 2);
-    EXPECT_NE(run.output.find("none.mt: Can't open template file!"), std::string::npos)
-        << run.output;
-    EXPECT_EQ(
-        RunTool("diff " + kDataOption + "--format xml " + Quoted(kSmall) + " " + Quoted(kSmall))
-            .status,
-        2);
-}
-
 // The picture of a comparison marks an added phase green and shows where a
 // removed check stood.
 TEST_F(ToolDiffTest, RenderMarksTheDifferencesOnThePicture) {

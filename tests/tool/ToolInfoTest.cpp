@@ -30,22 +30,6 @@ TEST(ToolInfoTest, EverySpellingOfTheDataFolderGivesTheSamePool) {
     EXPECT_EQ(pool("../" + data.parent_path().filename().string() + "/data"), absolute);
 }
 
-// A command's own help, as command-line programs give it: on standard
-// output, with status 0, and nothing said about an unknown option.
-TEST(ToolInfoTest, HelpAndVersionFollowTheCommandLinesConventions) {
-    for (const std::string asked : {"replay --help", "replay -h", "help replay"}) {
-        const ToolRun run = RunTool(asked + " 2>/dev/null");
-        EXPECT_EQ(run.status, 0) << asked;
-        EXPECT_EQ(run.output.find("unknown"), std::string::npos) << asked;
-        EXPECT_NE(run.output.find("replay [--data DIR] IN SCRIPT OUT"), std::string::npos);
-        EXPECT_EQ(run.output.find("normalize"), std::string::npos) << run.output;
-    }
-    const ToolRun version = RunTool("--version");
-    EXPECT_EQ(version.status, 0);
-    EXPECT_EQ(version.output, "loomwright-tool " LOOMWRIGHT_VERSION "\n");
-    EXPECT_EQ(RunTool("help frobnicate").status, 2);
-}
-
 TEST(ToolInfoTest, UsageErrorsExitWithTwo) {
     EXPECT_EQ(RunTool("").status, 2);
     EXPECT_EQ(RunTool("frobnicate").status, 2);

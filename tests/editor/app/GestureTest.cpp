@@ -33,7 +33,6 @@ protected:
         weaver.links.push_back(Link{false, from.id, "out", to.id, "in"});
         weaver.RefreshGateMarks();
     }
-    void Band(int x0, int y0, int x1, int y1) { DragThrough(x0, y0, {{x1, y1}}); }
 
     // The canvas lies at (100, 50) on the screen, 800 by 600 pixels.
     const ScreenRect canvasOnScreen{100, 50, 900, 650};
@@ -128,7 +127,7 @@ TEST_F(GestureTest, LinesArePickedWithinSixPixelsAndPastTheirEndsByTheDistanceTo
     EXPECT_EQ(PickedGeometryPhase(500, 2050), 0);
 }
 
-TEST_F(GestureTest, EscapeEndsPlacingsLinkGesturesAndDragsButNotBands) {
+TEST_F(GestureTest, EscapeEndsPlacingsButNotBands) {
     dialogs.QueueOutcome(true, [](DialogCall& call) {
         As<Phase>(call.object)->blocks["main"] = "scg\\0\\blocks\\air\\patrol.group";
     });
@@ -156,29 +155,8 @@ TEST_F(GestureTest, EscapeEndsPlacingsLinkGesturesAndDragsButNotBands) {
     EXPECT_EQ(weaver.pendingCase, nullptr);
     EXPECT_EQ(weaver.pendingSwitch, nullptr);
     EXPECT_EQ(weaver.objects.size(), 2u) << "only the case's phase and the switch's case";
-    weaver.selection.Clear();
-
-    Phase* source = PhaseAt(weaver, "S", 0, 0);
-    Select(source);
-    weaver.StartGeometryLink(true);
-    input.Key(CanvasKey::Escape);
-    EXPECT_EQ(weaver.pendingPhase, nullptr);
-    EXPECT_EQ(weaver.objects.size(), 3u);
-    weaver.WaitToPlaceTemplate(Weaver::kClipboardPath);
-    input.Key(CanvasKey::Escape);
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
     EXPECT_EQ(Commands(), 0u);
 
-    // A drag taken back with Escape puts the phase where it stood and
-    // leaves no command: a slip of the hand costs nothing.
-    input.LeftDown(50, 50, kLeftButton);
-    input.Move(150, 90, kLeftButton);
-    input.Key(CanvasKey::Escape);
-    EXPECT_EQ(weaver.interactionState(), InteractionState::StateIdle);
-    EXPECT_EQ(source->posX, 0);
-    EXPECT_EQ(source->posY, 0);
-    input.LeftUp(150, 90, 0);
-    EXPECT_EQ(Commands(), 0u);
     input.LeftDown(600, 600, kLeftButton);
     input.Key(CanvasKey::Escape);
     EXPECT_EQ(weaver.interactionState(), InteractionState::StateRubberBand);

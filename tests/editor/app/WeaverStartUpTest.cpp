@@ -62,13 +62,6 @@ TEST_F(WeaverStartUpTest, AMissingDataFolderResolvesAgainstTheWorkingFolder) {
     EXPECT_TRUE(prompts.Log().empty());
 }
 
-TEST_F(WeaverStartUpTest, DataFolderIsKeptLowerCaseWhileFilesUseTheRealSpelling) {
-    disk.AddDirectory(kData);
-    StartUp();
-    EXPECT_EQ(weaver.dataFolder, "/opt/sim/data");
-    EXPECT_EQ(weaver.files.BaseFolder(), kData);
-}
-
 TEST(DataFolderTest, TwoLevelsAboveTheExecutableThenData) {
     EXPECT_EQ(DataFolderForExecutable("/work/Main/build/bin/loomwright"), "/work/Main/data");
     EXPECT_EQ(DataFolderForExecutable("/a/./b/c/prog"), "/a/data");

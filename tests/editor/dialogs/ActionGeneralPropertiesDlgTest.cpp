@@ -68,30 +68,6 @@ TEST_F(ActionGeneralPropertiesDlgTest, PreviewFillsEveryPlaceholderAndIsStoredAs
     EXPECT_EQ(dialog.ruleList[1].texts[0], "set_value(Fuel,50);");
 }
 
-TEST_F(ActionGeneralPropertiesDlgTest, ComplexRulesBringTheirAddsOrAnImport) {
-    ActionGeneralPropertiesDlg dialog(e.weaver.ruleCatalogue, action);
-    Choose(dialog, "dawn_pack");
-    EXPECT_FALSE(dialog.parameterEnabled || dialog.conditionEnabled);
-    EXPECT_EQ(dialog.imported, "set_time(dawn) \r\nset_light(low,12) if(season==2); \r\n");
-    EXPECT_EQ(dialog.format, "set_time(dawn); ");
-    dialog.condition = "a>1";
-    dialog.OnAddRule(e.prompts);
-    EXPECT_EQ(dialog.workingRules,
-              (Rules{{"set_time", {"dawn"}, ""}, {"set_light", {"low", "12"}, "if(season==2); "}}));
-
-    EXPECT_EQ(Add("storm_pack").size(), 2u);
-    EXPECT_EQ(Add("import_night_pack"), (Rules{{"import_rules", {"import_night_pack"}, ""}}));
-    EXPECT_TRUE(e.prompts.Log().empty());
-
-    // A name the catalogue lost leaves the edits as they were.
-    e.weaver.ruleCatalogue.rules.clear();
-    Choose(dialog, "add_flag");
-    EXPECT_FALSE(dialog.parameterEnabled);
-    EXPECT_EQ(dialog.comment, "");
-    dialog.OnAddRule(e.prompts);
-    EXPECT_EQ(dialog.workingRules.size(), 2u);
-}
-
 TEST_F(ActionGeneralPropertiesDlgTest, RefusalsAreSilentButForAMissingChoice) {
     RuleDef empty;
     empty.name = "empty_pack";

@@ -163,30 +163,6 @@ TEST_F(PhaseDialogTest, OkWritesWhatEachGenerationTypeCarries) {
     }
 }
 
-TEST_F(PhaseDialogTest, GatesAndPropertiesComeFromTheMainBlockAlone) {
-    const BlockInfo patrol = e.weaver.blockPool.GetBlock(kPatrol);
-    Phase& phase = *e.weaver.NewPhase();
-    CPhasePropertiesDlg dialog = Dialog(e.weaver, phase);
-    ChooseMainBlock(dialog, kPatrol);
-    dialog.additionalList.Add("scg\\0\\blocks\\air\\playerflight.group");
-    dialog.colorCombo.SetCurrent(6);
-    ASSERT_TRUE(dialog.Ok(e.prompts));
-    ASSERT_EQ(phase.inputs.size(), patrol.inputs.size());
-    ASSERT_EQ(phase.outputs.size(), patrol.outputs.size());
-    for (std::size_t i = 0; i < patrol.inputs.size(); ++i)
-        EXPECT_EQ(phase.inputs[i], (GateSlot{patrol.inputs[i], true}));
-    EXPECT_EQ(phase.blockProperties, patrol.dynamics);
-    EXPECT_EQ(phase.colorIndex, 6);
-
-    Phase& recon = Named("ReconSweep");
-    recon.blockProperties = {{"Kept", {"Model"}}};
-    recon.inputs[0].openMark = false;
-    CPhasePropertiesDlg edit = Dialog(e.weaver, recon);
-    ASSERT_TRUE(edit.Ok(e.prompts));
-    EXPECT_EQ(recon.blockProperties.count("Kept"), 1u);
-    EXPECT_TRUE(recon.inputs[0].openMark);
-}
-
 TEST_F(PhaseDialogTest, AllocationFollowsTheGenerationType) {
     Phase& phase = *e.weaver.NewPhase();
     CPhasePropertiesDlg dialog = Dialog(e.weaver, phase);

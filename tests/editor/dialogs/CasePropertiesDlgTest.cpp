@@ -48,29 +48,5 @@ TEST_F(CasePropertiesDlgTest, OkChecksInOrderAndWritesNothingWhenRefused) {
     EXPECT_EQ(e.weaver.FindPhaseByName("EscortLeg")->caseId, opening().id);
 }
 
-// The name typed is kept: a designer who renames a case must not see the
-// old name come back.
-TEST_F(CasePropertiesDlgTest, OkRewiresBothSidesAndKeepsTheNameTyped) {
-    Case& caseObject = opening();
-    CasePropertiesDlg dlg(e.weaver, caseObject, {});
-    dlg.memberList.Select(0);
-    dlg.OnRemove();
-    dlg.candidateCombo.SelectByText("WaypointNorth");
-    dlg.OnAdd();
-    dlg.candidateCombo.SetEditText("NoSuchPhase");
-    dlg.OnAdd();
-    dlg.name = "Renamed";
-
-    ASSERT_TRUE(dlg.Ok(e.prompts));
-    EXPECT_EQ(caseObject.phaseIds, (Ids{PhaseId("ReconSweep"), PhaseId("WaypointNorth")}))
-        << "a row naming no phase is dropped";
-    EXPECT_EQ(e.weaver.FindPhaseByName("EscortLeg")->caseId, 0);
-    EXPECT_EQ(e.weaver.FindPhaseByName("WaypointNorth")->caseId, caseObject.id);
-    EXPECT_EQ(caseObject.name, "Renamed");
-    EXPECT_TRUE(dlg.IsResultValid());
-    caseObject.name = "CaseThreat";
-    EXPECT_FALSE(dlg.IsResultValid());
-}
-
 } // namespace
 } // namespace lw

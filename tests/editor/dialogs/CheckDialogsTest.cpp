@@ -92,16 +92,7 @@ TEST_F(CheckDialogsTest, RangeWritesWhatTheValidationRefuses) {
     EXPECT_EQ(empty.params, (Texts{"", "at", "0"}));
 }
 
-TEST_F(CheckDialogsTest, InRadiusAndInSectorRoundTripAndRanges) {
-    Check& radiusCheck = NewCheck({kPrimaryLinkPhase, "1000"});
-    CheckInRadiusPropertiesDlg radius(radiusCheck);
-    EXPECT_EQ(radius.radius.text, "1000");
-    radius.radius.text = "1000000";
-    ASSERT_TRUE(radius.Ok(e.prompts));
-    EXPECT_EQ(radiusCheck.params, (Texts{kPrimaryLinkPhase, "1000000"}));
-    EXPECT_EQ(CheckInRadiusPropertiesDlg(radiusCheck).radius.text, "1000000");
-    EXPECT_TRUE(radius.IsResultValid());
-
+TEST_F(CheckDialogsTest, InSectorTakesZeroTo359AndDefaultsToZero) {
     Check& sectorCheck = NewCheck({kPrimaryLinkPhase, "45"});
     CheckInSectorPropertiesDlg sector(sectorCheck);
     EXPECT_EQ(sector.arc.text, "45");

@@ -36,24 +36,5 @@ TEST(ComboFieldTest, SelectingByTextTakesTheFirstEntryThatBeginsWithIt) {
     EXPECT_EQ(combo.Text(), "phase_1");
 }
 
-TEST(NumberFieldTest, OnlyWholeNumbersInRangePass) {
-    RecordingPrompts prompts;
-    NumberField field;
-    std::int32_t value = 7;
-    for (const char* bad : {"", "-", "12a", "1.5", "99999999999", "0x10"}) {
-        field.text = bad;
-        EXPECT_FALSE(ReadInt(field, value, prompts)) << bad;
-    }
-    EXPECT_EQ(value, 7);
-    EXPECT_EQ(prompts.MessageTexts().back(), "Please enter a whole number.");
-
-    field.text = " -42 ";
-    EXPECT_TRUE(ReadInt(field, value, prompts));
-    EXPECT_EQ(value, -42);
-    field.text = "11";
-    EXPECT_FALSE(ReadInt(field, value, prompts, 0, 10));
-    EXPECT_EQ(prompts.MessageTexts().back(), "Please enter a whole number from 0 to 10.");
-}
-
 } // namespace
 } // namespace lw

@@ -45,24 +45,5 @@ TEST(AzimuthAdditionalDlgTest, AspectCodesReadAndWrittenBothWays) {
     EXPECT_EQ(Aspect(AzimuthAdditionalDlg(custom.param1, "", "")), (Shown{"Default", "0"}));
 }
 
-TEST(GeometryDialogsTest, TextThatIsNoNumberKeepsTheDialogOpen) {
-    RecordingPrompts prompts;
-    AzimuthAdditionalDlg azimuth("5", "100", "10");
-    azimuth.range.text = "far";
-    EXPECT_FALSE(azimuth.Ok(prompts));
-    EXPECT_EQ(Params(azimuth), (Texts{"5", "100", "10"}));
-
-    CFractalAdditionalDlg fractal("5", "20", "left");
-    fractal.deviation.text = "";
-    EXPECT_FALSE(fractal.Ok(prompts));
-    EXPECT_EQ(Params(fractal), (Texts{"5", "20", "left"}));
-
-    LineAdditionalDlg line("5", "100", "10");
-    line.deflection.text = "1x";
-    EXPECT_FALSE(line.Ok(prompts));
-    EXPECT_EQ(Params(line), (Texts{"5", "100", "10"}));
-    EXPECT_EQ(prompts.MessageTexts().size(), 3u);
-}
-
 } // namespace
 } // namespace lw

@@ -73,33 +73,5 @@ TEST_F(SwitchPropertiesDlgTest, OkChecksInOrderAndWritesNothingWhenRefused) {
     EXPECT_TRUE(dlg.Ok(e.prompts)) << "a number of 0 is accepted";
 }
 
-TEST_F(SwitchPropertiesDlgTest, OkWritesTheFieldsAndTheCasesInNameOrder) {
-    e.weaver.NewCase()->name = "zulu";
-    e.weaver.NewCase()->name = "Alpha";
-    Switch& fresh = *e.weaver.NewSwitch();
-    SwitchPropertiesDlg dlg(e.weaver, fresh,
-                            {CaseId("zulu"), CaseId("CaseFront"), CaseId("Alpha")});
-    dlg.number.text = "3";
-    dlg.preliminaryCombo.SetCurrent(7);
-    dlg.planeType = 1;
-    ASSERT_TRUE(dlg.Ok(e.prompts));
-    EXPECT_EQ(fresh.number, 3);
-    EXPECT_EQ(fresh.preliminaryCheck, 7);
-    EXPECT_EQ(fresh.planeType, 1);
-    EXPECT_EQ(fresh.caseIds, (Ids{CaseId("Alpha"), CaseId("CaseFront"), CaseId("zulu")}));
-    EXPECT_EQ(e.weaver.FindCaseByName("zulu")->switchId, fresh.id);
-    EXPECT_TRUE(dlg.IsResultValid());
-
-    SwitchPropertiesDlg edit(e.weaver, fresh, {});
-    edit.name = "SwitchNew";
-    edit.memberList.Select(1);
-    edit.OnRemove();
-    edit.number.text = "2";
-    ASSERT_TRUE(edit.Ok(e.prompts));
-    EXPECT_EQ(fresh.name, "SwitchNew");
-    EXPECT_EQ(e.weaver.FindCaseByName("CaseFront")->switchId, 0);
-    EXPECT_EQ(fresh.caseIds, (Ids{CaseId("Alpha"), CaseId("zulu")}));
-}
-
 } // namespace
 } // namespace lw

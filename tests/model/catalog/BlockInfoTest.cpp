@@ -29,10 +29,3 @@ TEST(IsCompatibleWith, NeedsTheSameCountsAndNamesButNotTheSameProperties) {
     EXPECT_FALSE(IsCompatibleWith(main, Block({"In"}, {"done", "fail"}, {"plane"})));
     EXPECT_FALSE(IsCompatibleWith(main, Block({"in"}, {"done", "fail"}, {"plane", "ship"})));
 }
-
-TEST(IsCompatibleWith, DuplicatesMakeItOneSided) {
-    const BlockInfo doubled = Block({"a", "a"}, {}, {});
-    const BlockInfo distinct = Block({"a", "b"}, {}, {});
-    EXPECT_TRUE(IsCompatibleWith(doubled, distinct));
-    EXPECT_FALSE(IsCompatibleWith(distinct, doubled));
-}

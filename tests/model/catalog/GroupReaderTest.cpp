@@ -19,15 +19,6 @@ BlockInfo Read(const std::string& text) {
 
 } // namespace
 
-TEST(SplitGroupLine, KeepsQuotedAndBracketedTextsWholeAndDropsSeparators) {
-    EXPECT_EQ(SplitGroupLine("  Name = \"Gate 1\";"), (Strings{"Name", "Gate 1"}));
-    EXPECT_EQ(SplitGroupLine("\tXPos = -12.5e+3; [a, b] {x|y}"),
-              (Strings{"XPos", "-12.5e+3", "a, b", "{x|y}"}));
-    EXPECT_EQ(SplitGroupLine("Name \"\";"), Strings{"Name"});
-    EXPECT_EQ(SplitGroupLine("Name \"open to the end"), (Strings{"Name", "open to the end"}));
-    EXPECT_EQ(SplitGroupLine("   "), Strings{});
-}
-
 TEST(ReadGroupStream, ReadsGatesInFileOrderAndSkipsEverythingElse) {
     const BlockInfo info = Read("Name = \"top level\";\n"
                                 "MCU_H_Input\n{\n  Name = \"in 1\";\n  Index = 3;\n}\n"

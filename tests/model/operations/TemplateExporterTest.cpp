@@ -40,13 +40,6 @@ protected:
         return {"not exported"};
     }
 
-    static Words HelperNames(const TemplateDesc& desc) {
-        Words names;
-        for (const GuiHelperDesc& helper : desc.guiHelpers)
-            names.push_back(helper.objectName);
-        return names;
-    }
-
     ObjectStore store;
 };
 
@@ -65,34 +58,6 @@ TEST_F(TemplateExporterTest, GeometryLinksLeadTheParametersByGenerationType) {
     for (std::int32_t type :
          {GenerationServerSetPos, GenerationServerWaypoint, GenerationServerTargetPos})
         EXPECT_EQ(GeoParams(type, first, second, {"1", "2"}), (Words{"1", "2"})) << type;
-}
-
-TEST_F(TemplateExporterTest, ChecksOfMeasuredTypesNameThePrimaryLinkPhase) {
-    const std::int32_t phase = AddPhase("p")->id;
-    const auto addCheck = [&](std::int32_t type, const Words& params) {
-        Check* check = store.NewCheck();
-        check->phaseId = phase;
-        check->type = type;
-        check->params = params;
-        return check;
-    };
-    addCheck(CheckRange, {});
-    const Check* inRadius = addCheck(CheckInRadius, {"other", "500"});
-    addCheck(CheckInSector, {"other"});
-    addCheck(CheckFree, {"other"});
-    addCheck(CheckCoalition, {"1"})->posX = 6;
-
-    const TemplateDesc desc = Export();
-    EXPECT_EQ(desc.checks,
-              (std::vector<CheckDesc>{{"p", CheckRange, {"PRIMARY_LINK_PHASE"}},
-                                      {"p", CheckInRadius, {"PRIMARY_LINK_PHASE", "500"}},
-                                      {"p", CheckInSector, {"PRIMARY_LINK_PHASE"}},
-                                      {"p", CheckFree, {"other"}},
-                                      {"p", CheckCoalition, {"1"}}}));
-    EXPECT_EQ(desc.guiHelpers.back(), (GuiHelperDesc{"check", 6, 0, "p", "coalition", 0}));
-    EXPECT_EQ(desc.guiHelpers[1].detail, "range");
-    // The object keeps what the file does not.
-    EXPECT_EQ(inRadius->params, (Words{"other", "500"}));
 }
 
 } // namespace

@@ -40,37 +40,15 @@ fs::perms Comparable(fs::perms permissions) {
 
 } // namespace
 
-TEST_F(NativeWriting, ANewFileGetsItsBytesAndDefaultPermissions) {
-    std::ofstream(root / "plain.txt") << "x";
-    ASSERT_TRUE(disk.ReplaceFile(At("new.mt"), kContent));
-    EXPECT_EQ(DiskBytes(root / "new.mt"), kContent);
-    EXPECT_EQ(fs::status(root / "new.mt").permissions(),
-              fs::status(root / "plain.txt").permissions());
-    EXPECT_EQ(FolderEntries(root), (Names{"new.mt", "plain.txt"}));
-}
-
 TEST_F(NativeWriting, AnExistingFileIsReplacedAndKeepsItsPermissions) {
     std::ofstream(root / "a.mt") << "old and longer content";
     const fs::perms kept = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
     fs::permissions(root / "a.mt", kept);
-    ASSERT_TRUE(disk.ReplaceFile(At("a.mt"), "new"));
-    EXPECT_EQ(DiskBytes(root / "a.mt"), "new");
+    ASSERT_TRUE(disk.ReplaceFile(At("a.mt"), kContent));
+    EXPECT_EQ(DiskBytes(root / "a.mt"), kContent);
     EXPECT_EQ(Comparable(fs::status(root / "a.mt").permissions()), Comparable(kept));
     EXPECT_EQ(FolderEntries(root), (Names{"a.mt"}));
 }
-
-TEST_F(NativeWriting, MissingFoldersAndFolderTargetsAreRefused) {
-    fs::create_directory(root / "sub");
-    EXPECT_FALSE(disk.ReplaceFile(At("nowhere/a.mt"), "x"));
-    EXPECT_FALSE(disk.ReplaceFile(At("sub"), "x"));
-    EXPECT_FALSE(disk.IsReadOnly(At("sub")));
-    EXPECT_FALSE(disk.IsReadOnly(At("missing.mt")));
-    EXPECT_EQ(FolderEntries(root), (Names{"sub"}));
-    EXPECT_TRUE(FolderEntries(root / "sub").empty());
-}
-
-#ifndef _WIN32
-#endif
 
 TEST_F(NativeWriting, SavingThroughALinkWritesTheFileItNames) {
     std::ofstream(root / "real.mt") << "old";
