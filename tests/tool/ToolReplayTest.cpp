@@ -88,11 +88,6 @@ TEST_F(ToolReplayTest, FailsWithoutItsFiles) {
     EXPECT_EQ(noScript.output, "loomwright-tool: can't read script missing.txt\n");
     EXPECT_EQ(noScript.status, 2);
 
-    const ToolRun noInput = Replay(data, Path("missing.mt"), "script.txt");
-    EXPECT_EQ(noInput.output, "Can't open template file!\n");
-    EXPECT_EQ(noInput.status, 2);
-    EXPECT_FALSE(fs::exists(Path("out.mt")));
-
     const ToolRun noFolder = Replay(data, sampleInput, "script.txt", "missing/out.mt");
     EXPECT_EQ(noFolder.output, "state=0 selection=[] changed=0 undo=0 redo=0 "
                                "caption=\"Loomwright - missing/out.mt\" view=0,0 scale=1\n"

@@ -61,6 +61,17 @@ TEST_F(UndoManagerTest, APushEndsTheRedoBranch) {
     EXPECT_EQ(history.undoStack.size(), 2u);
 }
 
+TEST_F(UndoManagerTest, ANullPushMarksTheDocumentAndKeepsTheRedoStack) {
+    test::RecordingViewHost host;
+    weaver.SetViewHost(&host);
+    weaver.fileName = "scg\\a.mt";
+    history.redoStack.push_back(Command(1));
+    history.Push(nullptr);
+    EXPECT_TRUE(history.changed);
+    EXPECT_EQ(history.redoStack.size(), 1u);
+    EXPECT_EQ(host.titles, std::vector<std::string>{"Loomwright - scg\\a.mt*"});
+}
+
 // Coming back to the saved state clears the "*" and leaving it sets it, so
 // the caption tells truthfully whether the file differs from the document.
 TEST_F(UndoManagerTest, UndoAndRedoRememberTheSavedState) {

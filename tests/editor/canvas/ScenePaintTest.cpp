@@ -181,3 +181,29 @@ TEST_F(ScenePaintTest, CanvasTakesItsFontAndFrameFirstAndZoomedOutTheSceneIsAMap
     EXPECT_EQ(CountStarting(paintAt(0.3f), "text"), 1u) << "no gate label";
     EXPECT_EQ(CountStarting(paintAt(0.5f), "text"), 3u) << "the name and two labels";
 }
+
+// So far out that boxes are a few pixels wide, the scene is an overview: the
+// boxes, circles and lines between them, without specks of gates, checks,
+// actions and texts, so that a whole large template paints at once.
+TEST_F(ScenePaintTest, AnOverviewShowsBoxesCirclesAndTheLinesBetweenThem) {
+    ShowLayers(true);
+    Phase* a = AddPhase(0, 0, GenerationRandom);
+    a->outputs = {GateSlot{"out", false}};
+    Phase* b = AddPhase(1000, 0, GenerationServerSetPos);
+    b->inputs = {GateSlot{"in", false}, GateSlot{"more", true}};
+    a->primaryLinkId = b->id;
+    weaver.links.push_back(Link{false, a->id, "out", b->id, "in"});
+    Check* check = Placed(weaver.NewCheck(), 66, 172);
+    check->phaseId = a->id;
+    Case* item = Placed(weaver.NewCase(), 500, 500);
+    item->phaseIds = {b->id};
+
+    // A link runs between its phases' stubs, half way down the boxes.
+    EXPECT_THAT(Paint(0.1f),
+                ElementsAre("pen solid 1 0,0,0", "brush 255,255,255", "rectangle 0,0,20,15",
+                            "rectangle 100,0,120,15", "pen solid 1 0,0,255", "line 6,5 100,0",
+                            "pen solid 1 0,0,255", "line 35,7 85,7", "pen solid 1 0,0,0",
+                            "brush 255,255,255", "ellipse 46,46,54,54", "pen solid 1 0,0,255",
+                            "line 50,50 106,5"));
+    EXPECT_EQ(CountStarting(Paint(0.15f), "roundrect"), 1u) << "no overview at 0.15";
+}

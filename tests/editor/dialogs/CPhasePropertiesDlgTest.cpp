@@ -163,6 +163,21 @@ TEST_F(PhaseDialogTest, OkWritesWhatEachGenerationTypeCarries) {
     }
 }
 
+// The gates come from the main block alone, all open, so that the outline
+// shows the links the phase lacks; the colour chosen is kept.
+TEST_F(PhaseDialogTest, GatesComeOpenFromTheMainBlockAndTheColourIsKept) {
+    Phase& phase = *e.weaver.NewPhase();
+    CPhasePropertiesDlg dialog = Dialog(e.weaver, phase);
+    ChooseMainBlock(dialog, kPatrol);
+    dialog.additionalList.Add("scg\\0\\blocks\\air\\playerflight.group");
+    dialog.colorCombo.SetCurrent(6);
+    ASSERT_TRUE(dialog.Ok(e.prompts));
+    const BlockInfo patrol = e.weaver.blockPool.GetBlock(kPatrol);
+    ASSERT_EQ(phase.inputs.size(), patrol.inputs.size());
+    EXPECT_EQ(phase.inputs[0], (GateSlot{patrol.inputs[0], true}));
+    EXPECT_EQ(phase.colorIndex, 6);
+}
+
 TEST_F(PhaseDialogTest, AllocationFollowsTheGenerationType) {
     Phase& phase = *e.weaver.NewPhase();
     CPhasePropertiesDlg dialog = Dialog(e.weaver, phase);

@@ -48,5 +48,18 @@ TEST_F(CasePropertiesDlgTest, OkChecksInOrderAndWritesNothingWhenRefused) {
     EXPECT_EQ(e.weaver.FindPhaseByName("EscortLeg")->caseId, opening().id);
 }
 
+// A phase taken out of the case no longer names it; one put in does.
+TEST_F(CasePropertiesDlgTest, OkRewiresBothSides) {
+    Case& caseObject = opening();
+    CasePropertiesDlg dlg(e.weaver, caseObject, {});
+    dlg.memberList.Select(0);
+    dlg.OnRemove();
+    dlg.candidateCombo.SelectByText("WaypointNorth");
+    dlg.OnAdd();
+    ASSERT_TRUE(dlg.Ok(e.prompts));
+    EXPECT_EQ(e.weaver.FindPhaseByName("EscortLeg")->caseId, 0);
+    EXPECT_EQ(e.weaver.FindPhaseByName("WaypointNorth")->caseId, caseObject.id);
+}
+
 } // namespace
 } // namespace lw
