@@ -25,9 +25,6 @@ protected:
     }
 
     void StartUp() { weaver.StartUp(kData); }
-    std::string SmallFileBytes() {
-        return test::ReadFileBytes(test::SampleDataDir() + "/scg/sample_small.mt");
-    }
     std::string Bytes(const std::string& path) {
         auto stream = disk.OpenForReading(path);
         return stream ? std::string(std::istreambuf_iterator<char>(*stream), {}) : "<missing>";

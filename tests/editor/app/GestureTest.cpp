@@ -33,9 +33,6 @@ protected:
         weaver.links.push_back(Link{false, from.id, "out", to.id, "in"});
         weaver.RefreshGateMarks();
     }
-
-    // The canvas lies at (100, 50) on the screen, 800 by 600 pixels.
-    const ScreenRect canvasOnScreen{100, 50, 900, 650};
 };
 
 } // namespace

@@ -22,7 +22,6 @@ using Names = std::vector<std::string>;
 
 const std::string kData = test::SampleEditor::kData;
 const std::size_t kHundredMegabytes = std::size_t{100} << 20;
-const std::size_t kMillion = 1000000;
 
 // A phase on its own block set of the sample data, as the program writes it.
 std::string PhaseLines(const std::string& name,

@@ -17,7 +17,6 @@ protected:
     Phase* from = PhaseAt(weaver);
     Phase* to = PhaseAt(weaver);
     Link link = LinkBetween(*from, *to);
-    bool& toInputOpen = to->inputs[0].openMark;
 };
 
 } // namespace

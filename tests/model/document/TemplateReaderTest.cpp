@@ -4,8 +4,6 @@
 
 #include "document/TemplateReader.h"
 
-#include "DescPrinting.h"
-
 #include <gtest/gtest.h>
 #include <sstream>
 
